@@ -1,0 +1,85 @@
+#pragma once
+
+#include "objects/AppearanceEffects.h"
+#include "objects/ScreenObject.h"
+#include "objects/vec.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class PictureObject;
+class ButtonObject;
+class AnimationObject;
+class WordObject;
+class CheckBoxObject;
+class SelectboxObject;
+
+// The screen being edited: its canvas, its backgrounds and its objects. An object's index is its place in the order of
+// adding; its layer is its place in the drawing order. Layers are exactly 0 to the number of objects - 1.
+class ScreenDocument {
+public:
+    ScreenDocument();
+    ~ScreenDocument();
+    ScreenDocument(const ScreenDocument&) = delete;
+    ScreenDocument& operator=(const ScreenDocument&) = delete;
+
+    // Each takes the object over and puts it on the top layer.
+    void AddPicture(std::unique_ptr<PictureObject> picture);
+    void AddButton(std::unique_ptr<ButtonObject> button);
+    void AddAnimation(std::unique_ptr<AnimationObject> animation);
+    void AddWord(std::unique_ptr<WordObject> word);
+    void AddCheckBox(std::unique_ptr<CheckBoxObject> checkBox);
+    void AddSelectbox(std::unique_ptr<SelectboxObject> selectbox);
+    // Backgrounds lie under all objects, have no layer and are never hit.
+    void AddBackground(std::unique_ptr<PictureObject> background);
+
+    // Lookups. On false the out argument is null or -1. The document keeps owning the objects.
+    bool GetObject(int32_t index, ScreenObject*& object) const;
+    bool IndexOfLayer(int32_t layer, int32_t& index) const;
+    // The object under a canvas point, topmost first; the search ends at a layer that no object holds.
+    bool FindObjectAt(vec point, int32_t& index) const;
+    bool GetObjectAt(ScreenObject*& object, vec point) const;
+    // Whether a corner and the centre of the object's visible part lie strictly between a (top-left) and b.
+    bool IsObjectInRect(int32_t index, vec a, vec b) const;
+    int32_t GetLayerCount() const { return layerCount; }
+    int32_t GetObjectCount() const { return static_cast<int32_t>(objects.size()); }
+
+    // Exchanges layers with the object just below (`down`) or above. False at the end of the stack.
+    bool MoveLayer(int32_t index, bool down);
+    // Deletes the object; objects behind it in the list move one index down, those above it one layer down, and effect
+    // records follow.
+    bool RemoveObject(int32_t index);
+    // Deletes every object and clears the canvas; the backgrounds stay.
+    void Clear();
+    // Hands the message to every object in list order.
+    bool Dispatch(ObjectMessage msg, uint32_t wParam, uint32_t lParam);
+
+    // Draws the backgrounds, then the objects from layer 0 up, and returns the canvas: 800 by 600 pixels in 555.
+    // Fits every object first and advances running effects. The canvas is not cleared before.
+    const uint16_t* Render();
+    // Fits pos, src and view of the object to the canvas: pushed back inside, or cropped at the edges.
+    void ClipObject(ScreenObject& object, bool keepInside) const;
+
+    // Starts the object's appearance effect; nothing for EffectNone, a running effect or a missing object.
+    void StartEffect(int32_t index);
+    // Advances the effect of an object and draws it when a step is due.
+    void StepEffect(int32_t index);
+
+    const uint16_t* GetCanvas() const { return canvas.get(); }
+    int32_t GetPitch() const { return pitch; }
+    vec GetCanvasSize() const { return canvasSize; }
+    const std::vector<std::unique_ptr<ScreenObject>>& GetObjects() const { return objects; }
+    const std::vector<EffectRecord>& GetEffects() const { return effects; }
+
+private:
+    void Add(std::unique_ptr<ScreenObject> object, ObjectKind kind);
+
+    std::vector<std::unique_ptr<ScreenObject>> objects;
+    std::vector<std::unique_ptr<PictureObject>> backgrounds;
+    std::vector<EffectRecord> effects;
+    std::unique_ptr<uint16_t[]> canvas;
+    vec canvasSize { ScreenWidth, ScreenHeight };
+    int32_t pitch = 2 * ScreenWidth;
+    int32_t layerCount = 0;
+};

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/GdiObjects.h"
+#include "platform/Types.h"
+
+// The device interface: drawing into a window's surface or into a bitmap in memory. Coordinates are pixels of the
+// surface; whatever falls outside it is cut. Texts are code page 950.
+
+constexpr UINT DIB_RGB_COLORS = 0;
+constexpr DWORD BI_RGB = 0;
+constexpr int TRANSPARENT = 1;
+constexpr int OPAQUE = 2;
+constexpr int WHITE_BRUSH = 0;
+constexpr int COLOR_WINDOW = 5;
+
+struct BITMAPINFOHEADER {
+    DWORD biSize = 40;
+    LONG biWidth = 0;
+    LONG biHeight = 0; // negative: rows from the top
+    WORD biPlanes = 1;
+    WORD biBitCount = 0;
+    DWORD biCompression = BI_RGB; // with 16 bits: 5-5-5
+    DWORD biSizeImage = 0;
+    LONG biXPelsPerMeter = 0;
+    LONG biYPelsPerMeter = 0;
+    DWORD biClrUsed = 0;
+    DWORD biClrImportant = 0;
+};
+
+struct BITMAPINFO {
+    BITMAPINFOHEADER bmiHeader;
+};
+
+// The drawing context of a window's client area; ReleaseDC gives it back and lets the desktop show what was drawn.
+HDC GetDC(HWND window);
+int ReleaseDC(HWND window, HDC context);
+// A context in memory; it draws nowhere until a bitmap is selected. Only a null reference context is supported.
+HDC CreateCompatibleDC(HDC reference);
+BOOL DeleteDC(HDC context);
+
+// Each kind of object (bitmap, font) is selected separately; the previous one of the kind comes back, null on failure.
+HGDIOBJ SelectObject(HDC context, HGDIOBJ object);
+BOOL DeleteObject(HGDIOBJ object);
+// Stock objects and system brushes belong to the system; deleting them does nothing.
+HGDIOBJ GetStockObject(int index);
+HBRUSH GetSysColorBrush(int index);
+HBRUSH CreateSolidBrush(COLORREF color);
+
+// Top-down 16-bit 5-5-5 bitmaps only, as large as memory allows; `bits` receives the pixels, rows padded to 4 bytes.
+HBITMAP CreateDIBSection(
+    HDC context, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section, DWORD sectionOffset);
+// Copies scan lines of a top-down 16-bit 5-5-5 bitmap. Returns the number of lines copied.
+int SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int sourceX, int sourceY, UINT firstLine,
+    UINT lines, const void* bits, const BITMAPINFO* info, UINT usage);
+
+BOOL SetRect(RECT* rectangle, int left, int top, int right, int bottom);
+int FillRect(HDC context, const RECT* rectangle, HBRUSH brush);
+// A frame one pixel wide on the inside of the rectangle.
+int FrameRect(HDC context, const RECT* rectangle, HBRUSH brush);
+
+// `height` is the cell height in pixels. Weights, slants and faces other than the default are not offered. Making a
+// font is cheap: its face is looked up when it is first used.
+HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic, DWORD underline,
+    DWORD strikeOut, DWORD charSet, DWORD outPrecision, DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily,
+    const char* faceName);
+// Pixels added after every character (a two-byte character is one), in measuring and drawing. Returns the old value.
+int SetTextCharacterExtra(HDC context, int extra);
+BOOL GetTextExtentPoint32A(HDC context, const char* text, int length, SIZE* size);
+COLORREF SetTextColor(HDC context, COLORREF color);
+int SetBkMode(HDC context, int mode);
+// Draws `length` bytes with the top-left corner of the first cell at (x, y).
+BOOL TextOutA(HDC context, int x, int y, const char* text, int length);

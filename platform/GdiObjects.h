@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Types.h"
+
+#include <cstdint>
+#include <memory>
+
+// The records behind the device interface's handles.
+namespace platform {
+
+struct GdiObject {
+    bool stock = false; // belongs to the system
+    virtual ~GdiObject() = default;
+};
+
+struct Brush final : GdiObject {
+    COLORREF color = 0;
+};
+
+// Top-down 5-5-5 pixels; a row has `stride` pixels, an even number.
+struct Bitmap final : GdiObject {
+    int width = 0;
+    int height = 0;
+    int stride = 0;
+    std::unique_ptr<uint16_t[]> pixels;
+};
+
+struct Font final : GdiObject {
+    int cellHeight = 16;
+};
+
+} // namespace platform

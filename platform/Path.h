@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Between the program's file names (backslash paths in code page 950) and the system's (UTF-8, slashes).
+namespace platform {
+
+// Decodes, turns separators, drops a drive letter, then looks for the exact name and, component by component, for one
+// that differs only in case. What does not exist keeps its spelling. Empty when the name cannot be a file's name (a
+// broken character, a NUL).
+std::string NativePath(std::string_view codePagePath);
+
+// The absolute backslash path of a native one; nothing when code page 950 cannot spell it.
+std::optional<std::string> CodePagePath(std::string_view nativePath);
+
+} // namespace platform
