@@ -13,7 +13,7 @@ struct OPENFILENAMEA {
     char* lpstrCustomFilter = nullptr;
     DWORD nMaxCustFilter = 0;
     DWORD nFilterIndex = 0; // from 1
-    char* lpstrFile = nullptr; // in: initial name; out: the chosen path
+    char* lpstrFile = nullptr; // receives the chosen path
     DWORD nMaxFile = 0; // bytes of lpstrFile
     char* lpstrFileTitle = nullptr;
     DWORD nMaxFileTitle = 0;
@@ -26,6 +26,7 @@ struct OPENFILENAMEA {
 };
 
 // Runs the open-file dialog. TRUE when the user confirmed a name: `lpstrFile` holds its absolute backslash path in code
-// page 950, and the process's current folder is now the folder of that file. A name that the code page cannot spell, or
-// that does not fit the buffer, is refused with a message and counts as cancelled.
+// page 950, and the process's current folder is now the folder of that file. A name that the code page cannot spell,
+// that does not fit the buffer, or whose folder (or file, where it must exist) is missing, is refused with a message
+// and counts as cancelled.
 BOOL GetOpenFileNameA(OPENFILENAMEA* request);

@@ -25,6 +25,10 @@ void DialogKey(Window& dialog, int command);
 void EditTyped(Window& control, std::string_view text);
 void ItemSelected(Window& dropDown, int index);
 
+// Forgets every window, class, menu and queued message, as the end of a process does: no messages are sent, but the
+// desktop is told of each window that it has open. A desktop calls this before it goes.
+void DiscardWindows();
+
 // Runs an inner message loop until `done` answers true: input is let in and messages are dispatched.
 void RunModalLoop(const std::function<bool()>& done);
 

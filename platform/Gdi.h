@@ -46,7 +46,8 @@ HGDIOBJ GetStockObject(int index);
 HBRUSH GetSysColorBrush(int index);
 HBRUSH CreateSolidBrush(COLORREF color);
 
-// Top-down 16-bit 5-5-5 bitmaps only, as large as memory allows; `bits` receives the pixels, rows padded to 4 bytes.
+// Top-down 16-bit 5-5-5 bitmaps only, of at most 1 GB, black at first; `bits` receives the pixels, rows padded to 4
+// bytes. Null when there is no such bitmap or no memory for it.
 HBITMAP CreateDIBSection(
     HDC context, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section, DWORD sectionOffset);
 // Copies scan lines of a top-down 16-bit 5-5-5 bitmap. Returns the number of lines copied.

@@ -10,6 +10,7 @@ namespace platform {
 
 struct GdiObject {
     bool stock = false; // belongs to the system
+    int selections = 0; // by contexts; a selected object cannot be deleted
     virtual ~GdiObject() = default;
 };
 

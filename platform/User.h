@@ -112,7 +112,7 @@ inline const char* MAKEINTRESOURCEA(WORD id)
 inline const char* const IDC_ARROW = MAKEINTRESOURCEA(32512);
 
 // Classes and windows. CreateWindowExA sends WM_CREATE before it returns; the class "BUTTON" is the system's push
-// button.
+// button, which a window makes while it handles WM_CREATE.
 ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 HICON LoadIconA(HINSTANCE instance, const char* name);
 HCURSOR LoadCursorA(HINSTANCE instance, const char* name); // null instance: the system's
@@ -133,8 +133,8 @@ HWND SetCapture(HWND window);
 BOOL ReleaseCapture();
 int16_t GetKeyState(int virtualKey); // negative: held down
 
-// Messages. PeekMessageA takes (PM_REMOVE) the next message without waiting; a quit request comes once nothing else is
-// left.
+// Messages. PeekMessageA takes (PM_REMOVE) the next message of all windows without waiting; a quit request comes once
+// nothing else is left.
 BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
 BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
@@ -149,7 +149,7 @@ HMENU GetSubMenu(HMENU menu, int position);
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rectangle);
 
 // Dialogs and message boxes, all modal. DialogBoxParamA answers EndDialog's result, 0 when the dialog could not be
-// made.
+// made, -1 when it went with its owner.
 int MessageBoxA(HWND owner, const char* text, const char* caption, UINT type);
 INT_PTR DialogBoxParamA(HINSTANCE instance, const char* templateName, HWND owner, DLGPROC procedure, LPARAM parameter);
 BOOL EndDialog(HWND dialog, INT_PTR result);

@@ -28,6 +28,8 @@ struct Window {
     bool enabled = true;
     bool closeBox = true; // has a system menu with a close box
     HINSTANCE instance = nullptr;
+    bool opened = false; // the desktop has been given it
+    bool dying = false; // its destruction is under way
 
     // Of a top-level window.
     WNDPROC procedure = nullptr;

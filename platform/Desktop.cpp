@@ -1,0 +1,38 @@
+#include "platform/Desktop.h"
+
+#include "platform/Machine.h"
+
+namespace platform {
+
+namespace {
+
+Desktop* installedDesktop = nullptr;
+
+} // namespace
+
+uint32_t Desktop::TickCount()
+{
+    return MachineTickCount();
+}
+
+void Desktop::Sleep(uint32_t milliseconds)
+{
+    MachineSleep(milliseconds);
+}
+
+void Desktop::DebugOutput(std::string_view text)
+{
+    WriteToStderr(text);
+}
+
+void InstallDesktop(Desktop* desktop)
+{
+    installedDesktop = desktop;
+}
+
+Desktop* InstalledDesktop()
+{
+    return installedDesktop;
+}
+
+} // namespace platform

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Window.h"
+
+// Who has the keyboard and the mouse.
+namespace platform {
+
+// The window that takes all mouse input, or null.
+Window* CapturedWindow();
+// Ends focus and capture of a window that goes, and of its controls.
+void ForgetInputOf(const Window& root);
+
+// While one is alive, a modal question is open: the window that asks takes no input. A capture ends when it begins.
+class ModalQuestion {
+public:
+    explicit ModalQuestion(Window* askingWindow);
+    ModalQuestion(const ModalQuestion&) = delete;
+    ModalQuestion& operator=(const ModalQuestion&) = delete;
+    ~ModalQuestion();
+
+private:
+    Window* owner; // null when nothing is to be given back
+};
+
+} // namespace platform

@@ -1,0 +1,195 @@
+#include "platform/headless/HeadlessDesktop.h"
+
+#include "platform/CodePage.h"
+#include "platform/DesktopEvents.h"
+#include "platform/User.h"
+#include "platform/WindowTable.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+// A main loop that turns this often without any input left to come will not end by itself.
+constexpr int maxIdlePumps = 10000;
+
+template <class Answer> std::optional<Answer> TakeFirst(std::deque<Answer>& answers)
+{
+    if (answers.empty())
+        return std::nullopt;
+    Answer answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
+
+} // namespace
+
+HeadlessDesktop::HeadlessDesktop()
+{
+    InstallDesktop(this);
+}
+
+HeadlessDesktop::~HeadlessDesktop()
+{
+    for (size_t left = dialogScripts.size(); left > 0; --left)
+        Report("a dialog that was expected never opened");
+    for (size_t left = menuAnswers.size(); left > 0; --left)
+        Report("a menu that was expected never opened");
+    for (size_t left = fileAnswers.size(); left > 0; --left)
+        Report("a file chooser that was expected never opened");
+    if (!problems.empty())
+        std::abort();
+    DiscardWindows();
+    InstallDesktop(nullptr);
+}
+
+void HeadlessDesktop::OnDialog(DialogScript script)
+{
+    dialogScripts.push_back(std::move(script));
+}
+
+void HeadlessDesktop::AnswerMenu(uint32_t id)
+{
+    menuAnswers.push_back(id);
+}
+
+void HeadlessDesktop::AnswerFileDialog(std::string nativePath)
+{
+    fileAnswers.push_back(std::move(nativePath));
+}
+
+void HeadlessDesktop::CancelFileDialog()
+{
+    fileAnswers.push_back(std::nullopt);
+}
+
+Window* HeadlessDesktop::MainWindow() const
+{
+    return topLevelWindows.empty() ? nullptr : topLevelWindows.front();
+}
+
+Window* HeadlessDesktop::Focus() const
+{
+    return IsWindow(focus) ? focus : nullptr;
+}
+
+const Surface& HeadlessDesktop::Screen() const
+{
+    static const Surface none;
+    return topLevelWindows.empty() ? none : topLevelWindows.front()->surface;
+}
+
+uint32_t HeadlessDesktop::Pixel(int x, int y) const
+{
+    const Surface& screen = Screen();
+    const bool inside = x >= 0 && y >= 0 && x < screen.width && y < screen.height;
+    return inside ? screen.At(x, y) : 0;
+}
+
+void HeadlessDesktop::Report(std::string problem)
+{
+    std::fprintf(stderr, "HeadlessDesktop: %s\n", problem.c_str());
+    problems.push_back(std::move(problem));
+}
+
+std::vector<std::string> HeadlessDesktop::TakeProblems()
+{
+    return std::exchange(problems, {});
+}
+
+void HeadlessDesktop::DebugOutput(std::string_view text)
+{
+    debugMessages.push_back({ Utf8FromCodePage(text), std::string(text) });
+}
+
+void HeadlessDesktop::WindowOpened(Window& window)
+{
+    if (window.kind != WindowKind::Dialog) {
+        topLevelWindows.push_back(&window);
+        return;
+    }
+    dialogTitles.push_back(Utf8FromCodePage(window.text));
+    openDialogs.push_back({ &window, TakeFirst(dialogScripts).value_or(nullptr) });
+}
+
+void HeadlessDesktop::WindowClosed(Window& window)
+{
+    std::erase(topLevelWindows, &window);
+    std::erase_if(openDialogs, [&](const OpenDialog& dialog) { return dialog.window == &window; });
+}
+
+bool HeadlessDesktop::IsKeyDown(int virtualKey)
+{
+    return (virtualKey == VK_SHIFT && (keysHeld & MK_SHIFT) != 0)
+        || (virtualKey == VK_CONTROL && (keysHeld & MK_CONTROL) != 0);
+}
+
+void HeadlessDesktop::Pump(bool wait)
+{
+    if (!openDialogs.empty())
+        WorkDialog();
+    else if (!input.empty())
+        LetNextInputIn(wait);
+    else
+        CountIdlePump();
+}
+
+void HeadlessDesktop::WorkDialog()
+{
+    Window* dialog = openDialogs.back().window;
+    if (const DialogScript script = std::exchange(openDialogs.back().script, nullptr)) {
+        DialogDriver driver(*this, dialog);
+        script(driver);
+        return;
+    }
+    Report("the dialog \"" + Utf8FromCodePage(dialog->text) + "\" was left open");
+    EndDialog(dialog, 0);
+}
+
+// Nobody will press anything any more: a main loop is told to end, so that the test does not run for ever.
+void HeadlessDesktop::CountIdlePump()
+{
+    if (++idlePumps != maxIdlePumps)
+        return;
+    Report("the program waits, but no input is left");
+    PostQuitMessage(-1);
+}
+
+int HeadlessDesktop::ShowMessageBox(Window* owner, std::string_view text, std::string_view caption)
+{
+    messageBoxes.push_back({ .text = Utf8FromCodePage(text),
+        .caption = Utf8FromCodePage(caption),
+        .ownerTitle = owner ? Utf8FromCodePage(owner->text) : "",
+        .owner = owner });
+    return IDOK;
+}
+
+uint32_t HeadlessDesktop::ShowMenu(Window&, const Menu& menu, POINT at)
+{
+    menus.push_back({ menu.items, at });
+    const auto answer = TakeFirst(menuAnswers);
+    if (!answer) {
+        Report("a menu opened without an answer");
+        return 0;
+    }
+    for (const MenuItem& item : menu.items)
+        if (item.id == *answer)
+            return *answer;
+    if (*answer != 0)
+        Report("the menu has no item " + std::to_string(*answer));
+    return 0;
+}
+
+std::optional<std::string> HeadlessDesktop::ChooseFile(const FileRequest& request)
+{
+    fileDialogs.push_back(request);
+    const auto answer = TakeFirst(fileAnswers);
+    if (!answer)
+        Report("a file chooser opened without an answer");
+    return answer.value_or(std::nullopt);
+}
+
+} // namespace platform

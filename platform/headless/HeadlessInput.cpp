@@ -1,0 +1,161 @@
+#include "platform/DesktopEvents.h"
+#include "platform/User.h"
+#include "platform/headless/HeadlessDesktop.h"
+
+#include <string>
+#include <utility>
+
+namespace platform {
+
+void HeadlessDesktop::Queue(std::function<void(Window&)> act, WPARAM keys)
+{
+    input.push_back({ .act = std::move(act), .keys = keys });
+}
+
+void HeadlessDesktop::QueueMouse(UINT message, int x, int y, WPARAM keys)
+{
+    const auto act = [this, message, x, y](Window& window) {
+        if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK)
+            mouseButtonsHeld |= MK_LBUTTON;
+        else if (message == WM_LBUTTONUP)
+            mouseButtonsHeld &= ~MK_LBUTTON;
+        else if (message == WM_RBUTTONDOWN)
+            mouseButtonsHeld |= MK_RBUTTON;
+        else if (message == WM_RBUTTONUP)
+            mouseButtonsHeld &= ~MK_RBUTTON;
+        PostMouse(window, message, { x, y }, mouseButtonsHeld | keysHeld);
+    };
+    Queue(act, keys);
+}
+
+void HeadlessDesktop::Press(int x, int y, WPARAM keys)
+{
+    QueueMouse(WM_LBUTTONDOWN, x, y, keys);
+}
+
+void HeadlessDesktop::MoveTo(int x, int y, WPARAM keys)
+{
+    QueueMouse(WM_MOUSEMOVE, x, y, keys);
+}
+
+void HeadlessDesktop::Release(int x, int y, WPARAM keys)
+{
+    QueueMouse(WM_LBUTTONUP, x, y, keys);
+}
+
+void HeadlessDesktop::Click(int x, int y, WPARAM keys)
+{
+    Press(x, y, keys);
+    Release(x, y, keys);
+}
+
+void HeadlessDesktop::DoubleClick(int x, int y, WPARAM keys)
+{
+    Click(x, y, keys);
+    QueueMouse(WM_LBUTTONDBLCLK, x, y, keys);
+    Release(x, y, keys);
+}
+
+void HeadlessDesktop::Drag(POINT from, POINT to, WPARAM keys)
+{
+    Press(from.x, from.y, keys);
+    MoveTo(to.x, to.y, keys);
+    Release(to.x, to.y, keys);
+}
+
+void HeadlessDesktop::RightPress(int x, int y, WPARAM keys)
+{
+    QueueMouse(WM_RBUTTONDOWN, x, y, keys);
+}
+
+void HeadlessDesktop::RightRelease(int x, int y, WPARAM keys)
+{
+    QueueMouse(WM_RBUTTONUP, x, y, keys);
+}
+
+void HeadlessDesktop::Key(int virtualKey, WPARAM keys)
+{
+    Queue([virtualKey](Window& window) { PostKeyDown(window, virtualKey); }, keys);
+}
+
+void HeadlessDesktop::ClickButton(int id)
+{
+    Queue([this, id](Window& window) {
+        Window* button = GetDlgItem(&window, id);
+        if (button && button->visible)
+            ButtonClicked(*button);
+        else
+            Report("the main window has no button " + std::to_string(id));
+    });
+}
+
+void HeadlessDesktop::CloseBox()
+{
+    Queue([](Window& window) { CloseBoxClicked(window); });
+}
+
+void HeadlessDesktop::MoveWindowTo(int x, int y)
+{
+    Queue([x, y](Window& window) { WindowMoved(window, x, y); });
+}
+
+void HeadlessDesktop::Wait(uint32_t milliseconds)
+{
+    input.push_back({ .act = nullptr, .waitMs = milliseconds });
+}
+
+void HeadlessDesktop::Do(std::function<void()> step)
+{
+    Queue([step = std::move(step)](Window&) { step(); });
+}
+
+bool HeadlessDesktop::HasWaited(uint32_t milliseconds, bool sleepUntilThen)
+{
+    if (!waitingSince)
+        waitingSince = clock;
+    if (sleepUntilThen && clock - *waitingSince < milliseconds)
+        clock = *waitingSince + milliseconds;
+    if (clock - *waitingSince < milliseconds)
+        return false;
+    waitingSince.reset();
+    return true;
+}
+
+void HeadlessDesktop::LetNextInputIn(bool wait)
+{
+    idlePumps = 0;
+    for (; !input.empty() && input.front().waitMs > 0; input.pop_front()) {
+        if (!HasWaited(input.front().waitMs, wait))
+            return;
+    }
+    if (input.empty())
+        return;
+    const Input next = std::move(input.front());
+    input.pop_front();
+    keysHeld = next.keys;
+    if (MainWindow())
+        next.act(*MainWindow());
+    else
+        Report("input without a main window");
+}
+
+void HeadlessDesktop::PlayInput()
+{
+    while (true) {
+        const bool hadInput = HasInput();
+        MSG message;
+        if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
+            DispatchMessageA(&message);
+        } else if (!hadInput) {
+            return;
+        } else {
+            Sleep(1);
+        }
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/qt/InputReports.h"
+#include "platform/qt/WidgetMap.h"
+
+#include <Qt>
+
+namespace platform {
+
+// What the widgets of one desktop share.
+struct DesktopState {
+    WidgetMap widgets;
+    InputReports reports { widgets };
+    const Window* capture = nullptr; // takes all mouse input
+    Qt::KeyboardModifiers modifiers; // held when the latest told input was made
+};
+
+} // namespace platform

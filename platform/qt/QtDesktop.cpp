@@ -1,0 +1,213 @@
+#include "platform/qt/QtDesktop.h"
+
+#include "platform/DesktopEvents.h"
+#include "platform/User.h"
+#include "platform/qt/CanvasWidget.h"
+#include "platform/qt/ControlWidgets.h"
+#include "platform/qt/DialogWidget.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/Questions.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QScreen>
+#include <QTranslator>
+
+#include <clocale>
+
+namespace platform {
+namespace {
+
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
+{
+    // A canvas pixel covers a whole number of display pixels.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
+    // The toolkit's own dialogs behave the same on every desktop.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QCoreApplication::setApplicationName(QStringLiteral("tobrik"));
+    auto application = std::make_unique<QApplication>(argc, argv);
+    // The user's locale must not reach the numbers in files.
+    std::setlocale(LC_NUMERIC, "C");
+    QGuiApplication::setDesktopFileName(QStringLiteral("tobrik"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setFont(DialogFont());
+    return application;
+}
+
+} // namespace
+
+struct QtDesktop::Parts {
+    std::unique_ptr<QApplication> application;
+    QTranslator translator;
+    DesktopState state;
+    int pumpDepth = 0;
+
+    Parts(int& argc, char** argv)
+        : application(MakeApplication(argc, argv))
+    {
+        // The file chooser speaks the editor's language where the translation is installed.
+        if (translator.load(QStringLiteral("qtbase_zh_TW"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QCoreApplication::installTranslator(&translator);
+    }
+
+    CanvasWidget* CanvasOf(const Window& window) const
+    {
+        return dynamic_cast<CanvasWidget*>(state.widgets.WidgetOf(&window));
+    }
+
+    void Open(Window& window);
+    void Flush(const QWidgetList& windows);
+};
+
+// A child that comes before its parent's widget is made together with it.
+void QtDesktop::Parts::Open(Window& window)
+{
+    if (state.widgets.WidgetOf(&window))
+        return;
+    QWidget* parent = state.widgets.WidgetOf(window.parent);
+    if (window.kind == WindowKind::TopLevel) {
+        auto* canvas = new CanvasWidget(window, state);
+        state.widgets.Bind(window, *canvas);
+        for (const auto& child : window.children)
+            MakeControl(*child, *canvas, state);
+        canvas->Mirror();
+    } else if (window.kind == WindowKind::Dialog) {
+        auto* dialog = new DialogWidget(window, parent, state);
+        state.widgets.Bind(window, *dialog);
+        for (const auto& child : window.children)
+            MakeControl(*child, *dialog, state);
+        dialog->WatchKeys();
+        dialog->Mirror();
+    } else if (parent) {
+        MakeControl(window, *parent, state);
+    }
+}
+
+void QtDesktop::Parts::Flush(const QWidgetList& windows)
+{
+    for (QWidget* window : windows) {
+        if (auto* canvas = dynamic_cast<CanvasWidget*>(window))
+            canvas->Flush();
+    }
+}
+
+QtDesktop::QtDesktop(int& argc, char** argv)
+    : parts(std::make_unique<Parts>(argc, argv))
+{
+}
+
+QtDesktop::~QtDesktop()
+{
+    DiscardWindows();
+    parts->state.widgets.DeleteAll();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtDesktop::Sleep(uint32_t milliseconds)
+{
+    parts->Flush(QApplication::topLevelWidgets());
+    Desktop::Sleep(milliseconds);
+}
+
+void QtDesktop::WindowOpened(Window& window)
+{
+    parts->Open(window);
+}
+
+void QtDesktop::WindowChanged(Window& window)
+{
+    QWidget* widget = parts->state.widgets.WidgetOf(&window);
+    if (auto* canvas = dynamic_cast<CanvasWidget*>(widget))
+        canvas->Mirror();
+    else if (auto* dialog = dynamic_cast<DialogWidget*>(widget))
+        dialog->Mirror();
+    else if (widget)
+        MirrorControl(*widget, window);
+}
+
+// The widget may be in the middle of an event: it goes when the outermost Pump has come back from all of them.
+void QtDesktop::WindowClosed(Window& window)
+{
+    QWidget* widget = parts->state.widgets.WidgetOf(&window);
+    parts->state.reports.Forget(window);
+    parts->state.widgets.Release(window);
+    if (parts->state.capture == &window)
+        parts->state.capture = nullptr;
+    if (!widget)
+        return;
+    widget->hide();
+    widget->deleteLater();
+}
+
+void QtDesktop::SurfaceDrawn(Window& window)
+{
+    if (CanvasWidget* canvas = parts->CanvasOf(window))
+        canvas->OnDrawn();
+}
+
+void QtDesktop::FocusChanged(Window& window)
+{
+    QWidget* widget = parts->state.widgets.WidgetOf(&window);
+    if (!widget)
+        return;
+    // Window managers lose the keyboard when a box and the dialog under it go at the same moment.
+    widget->activateWindow();
+    widget->setFocus();
+}
+
+void QtDesktop::CaptureChanged(Window* window)
+{
+    parts->state.capture = window;
+}
+
+SIZE QtDesktop::FrameSize(const Window& window)
+{
+    const QWidget* widget = parts->state.widgets.WidgetOf(&window);
+    if (!widget)
+        return {};
+    const QSize frame = widget->frameGeometry().size() - widget->geometry().size();
+    return { frame.width(), frame.height() };
+}
+
+SIZE QtDesktop::DisplaySize()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return {};
+    return { screen->geometry().width(), screen->geometry().height() };
+}
+
+bool QtDesktop::IsKeyDown(int virtualKey)
+{
+    if (virtualKey == VK_SHIFT)
+        return parts->state.modifiers.testFlag(Qt::ShiftModifier);
+    return virtualKey == VK_CONTROL && parts->state.modifiers.testFlag(Qt::ControlModifier);
+}
+
+void QtDesktop::Pump(bool wait)
+{
+    ++parts->pumpDepth;
+    const bool sleep = wait && parts->state.reports.Empty();
+    QCoreApplication::processEvents(sleep ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
+    parts->state.reports.TellNext();
+    --parts->pumpDepth;
+    if (parts->pumpDepth == 0)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+int QtDesktop::ShowMessageBox(Window* owner, std::string_view text, std::string_view caption)
+{
+    return AskMessageBox(parts->state.widgets.WidgetOf(owner), TextFromCodePage(text), TextFromCodePage(caption));
+}
+
+uint32_t QtDesktop::ShowMenu(Window& owner, const Menu& menu, POINT at)
+{
+    return AskMenu(parts->state.widgets.WidgetOf(&owner), menu, { at.x, at.y });
+}
+
+std::optional<std::string> QtDesktop::ChooseFile(const FileRequest& request)
+{
+    return AskFile(parts->state.widgets.WidgetOf(request.owner), request);
+}
+
+} // namespace platform

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Desktop.h"
+
+#include <memory>
+
+namespace platform {
+
+// The designer's own desktop: real windows, dialogs, menus and boxes. There is one at most, and it is made inside
+// main: it brings the toolkit's application object along.
+class QtDesktop final : public Desktop {
+public:
+    // The arguments must outlive the desktop; the toolkit takes the ones that it knows out of them.
+    QtDesktop(int& argc, char** argv);
+    ~QtDesktop() override;
+
+    // Shows what was drawn to the windows first, so that a frame is seen before the pause and not after it.
+    void Sleep(uint32_t milliseconds) override;
+
+    void WindowOpened(Window& window) override;
+    void WindowChanged(Window& window) override;
+    void WindowClosed(Window& window) override;
+    void SurfaceDrawn(Window& window) override;
+    void FocusChanged(Window& window) override;
+    void CaptureChanged(Window* window) override;
+    // (0, 0) until the window manager has told the frame.
+    SIZE FrameSize(const Window& window) override;
+    // In device-independent pixels, as all coordinates here.
+    SIZE DisplaySize() override;
+    // Shift and Ctrl as they were held when the latest reported input was made.
+    bool IsKeyDown(int virtualKey) override;
+
+    // Reports one piece of input at most, so that the program has reacted to it before the next one is judged.
+    void Pump(bool wait) override;
+
+    int ShowMessageBox(Window* owner, std::string_view text, std::string_view caption) override;
+    uint32_t ShowMenu(Window& owner, const Menu& menu, POINT at) override;
+    std::optional<std::string> ChooseFile(const FileRequest& request) override;
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts;
+};
+
+} // namespace platform

@@ -1,0 +1,60 @@
+#include "platform/Big5Literal.h"
+#include "platform/Path.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform;
+
+namespace {
+
+TEST(NativePath, DecodesBeforeItTurnsSeparators)
+{
+    const TemporaryFolder folder;
+    // The second byte of the name's first character is a backslash.
+    EXPECT_EQ(NativePath(u8"圖\\功能.bmp"_big5), "圖/功能.bmp");
+    EXPECT_EQ(NativePath("C:\\a\\b.bmp"), "/a/b.bmp");
+    EXPECT_EQ(NativePath("c:b.bmp"), "b.bmp");
+    EXPECT_EQ(NativePath("..\\b/c.bmp"), "../b/c.bmp");
+}
+
+TEST(NativePath, FindsNamesThatDifferInCaseComponentByComponent)
+{
+    const TemporaryFolder folder;
+    folder.Write("Image/Sub/Logo.BMP", "");
+    for (const char* name : { "Image/功.bmp", "A.bmp", "a.bmp", "A.BMP" })
+        folder.Write(name, "");
+    EXPECT_EQ(NativePath("image\\SUB\\logo.bmp"), "Image/Sub/Logo.BMP");
+    EXPECT_EQ(NativePath(u8"IMAGE\\功.BMP"_big5), "Image/功.bmp");
+    EXPECT_EQ(NativePath("image\\missing\\Logo.bmp"), "Image/missing/Logo.bmp");
+    EXPECT_EQ(NativePath("image\\"), "Image/");
+    EXPECT_EQ(NativePath("a.bmp"), "a.bmp") << "the exact name comes first";
+    EXPECT_EQ(NativePath("a.BMP"), "A.BMP") << "then the first in byte order";
+    EXPECT_EQ(NativePath("D:" + folder.Path() + "\\IMAGE"), folder.Path() + "/Image");
+}
+
+TEST(NativePath, IsEmptyForWhatCannotBeAFileName)
+{
+    using namespace std::string_view_literals;
+    for (const std::string_view name : { ""sv, "C:"sv, "a\xA4"sv, "\xA4\x30.bmp"sv, "\xFF.bmp"sv, "a\0.bmp"sv })
+        EXPECT_EQ(NativePath(name), "") << testing::PrintToString(name);
+}
+
+TEST(CodePagePath, IsAbsoluteAndComesBack)
+{
+    const TemporaryFolder folder;
+    folder.Write("圖/功能.bmp", "");
+    const auto path = CodePagePath("圖/../圖/./功能.bmp");
+    ASSERT_TRUE(path);
+    EXPECT_EQ(path->front(), '\\');
+    EXPECT_TRUE(path->ends_with(u8"\\圖\\功能.bmp"_big5));
+    EXPECT_EQ(NativePath(*path), folder.Path() + "/圖/功能.bmp");
+}
+
+TEST(CodePagePath, RefusesWhatWouldNotComeBack)
+{
+    for (const char* name : { "", "堃.bmp", "a\\b.bmp", "\xFF.bmp" })
+        EXPECT_FALSE(CodePagePath(name)) << name;
+}
+
+} // namespace

@@ -1,0 +1,100 @@
+#include "platform/Big5Literal.h"
+#include "tests/platform/qt/QtProgram.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+class QtDialogs : public QtProgram {
+protected:
+    enum FieldPosition { Name, Age, Town };
+    static void Commit(QWidget& field, const QString& text)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QCoreApplication::sendEvent(&field, &event);
+    }
+};
+
+TEST_F(QtDialogs, ShowAQuestionMarkForWhatTheCodePageCannotSpell)
+{
+    WorkInDialog({ [this] {
+        auto& field = InDialog<QLineEdit>(Name);
+        Commit(field, QStringLiteral("功堃é"));
+        EXPECT_EQ(field.text(), QStringLiteral("功??"));
+        field.setCursorPosition(1);
+        Commit(field, QStringLiteral("😀"));
+        EXPECT_EQ(field.text(), QStringLiteral("功???"));
+        EXPECT_EQ(field.cursorPosition(), 2);
+        field.insert(QStringLiteral("\n許\t")); // as from the clipboard
+        EXPECT_EQ(TextOf(NameField), "功?許??");
+    } });
+}
+
+TEST_F(QtDialogs, RefuseAllButDigitsAndTypingIntoDisplays)
+{
+    WorkInDialog({ [this] {
+        QTest::keyClicks(&InDialog<QLineEdit>(Age), "1a-2");
+        Commit(InDialog<QLineEdit>(Age), QStringLiteral("三"));
+        EXPECT_EQ(TextOf(AgeField), "12");
+        QTest::keyClicks(&InDialog<QLineEdit>(Town), "x");
+        EXPECT_EQ(InDialog<QLineEdit>(Town).text(), QString());
+    } });
+}
+
+TEST_F(QtDialogs, TurnEscapeAndEnterIntoCommandsAndNothingElse)
+{
+    WorkInDialog({ [this] { QTest::keyClick(&InDialog<QLineEdit>(Name), Qt::Key_Escape); },
+        [this] { QTest::keyClick(&InDialog<QComboBox>(), Qt::Key_Return); },
+        [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Enter); },
+        [] { QApplication::activeModalWidget()->close(); } });
+    const std::string done = "dialog command " + std::to_string(DoneButton);
+    EXPECT_EQ(TakeLog(), Log({ "dialog command 2", "dialog command 1", "dialog command 1", done }));
+}
+
+TEST_F(QtDialogs, DropTheSelectionOfADropDownThatIsTypedInto)
+{
+    WorkInDialog({ [this] {
+        auto& list = InDialog<QComboBox>();
+        const HWND record = GetDlgItem(dialog, ColourList);
+        QTest::keyClick(&list, Qt::Key_Down);
+        EXPECT_EQ(SendMessageA(record, CB_GETCURSEL, 0, 0), 1);
+        EXPECT_EQ(TextOf(ColourList), "green");
+        list.setFocus();
+        list.lineEdit()->selectAll();
+        QTest::keyClicks(&list, "red");
+        list.clearFocus(); // with an item's very text
+        EXPECT_EQ(list.currentIndex(), -1);
+        EXPECT_EQ(SendMessageA(record, CB_GETCURSEL, 0, 0), -1);
+        EXPECT_EQ(list.currentText(), QStringLiteral("red"));
+        EXPECT_EQ(TextOf(ColourList), "red");
+    } });
+}
+
+TEST_F(QtDialogs, ShowTheProgramsChangesAndReportClicks)
+{
+    WorkInDialog({ [this] {
+                      const HWND list = GetDlgItem(dialog, ColourList);
+                      SendMessageA(list, CB_DELETESTRING, 0, 0);
+                      SendMessageA(list, CB_SETCURSEL, 1, 0);
+                      EXPECT_EQ(InDialog<QComboBox>().count(), 2);
+                      SetWindowTextA(GetDlgItem(dialog, NameField), "\xA2\xCC \xA4"); // not to be spelled anew
+                      EXPECT_EQ(InDialog<QComboBox>().currentText(), QStringLiteral("blue"));
+                      QTest::mouseClick(&InDialog<QCheckBox>(), Qt::LeftButton, {}, { 8, 8 });
+                  },
+        [this] {
+            EXPECT_EQ(SendMessageA(GetDlgItem(dialog, LoudBox), BM_GETCHECK, 0, 0), LRESULT { BST_CHECKED });
+            EXPECT_EQ(TakeLog(), Log({ "dialog command " + std::to_string(LoudBox) }));
+            EXPECT_EQ(InDialog<QLineEdit>(Name).text(), QStringLiteral("\u5341 \uFFFD"));
+            EXPECT_EQ(GetDlgItem(dialog, NameField)->text, "\xA2\xCC \xA4");
+            EXPECT_EQ(InDialog<QLabel>().text(), QStringLiteral("R&D <b>"));
+            EXPECT_EQ(QApplication::activeModalWidget()->size(), QSize(200, 180));
+        } });
+}
+
+} // namespace
