@@ -19,8 +19,8 @@ public:
             value = T {};
         return *this;
     }
-    Loaded(Loaded&&) = default;
-    Loaded& operator=(Loaded&&) = default;
+    Loaded(Loaded&&) noexcept = default;
+    Loaded& operator=(Loaded&&) noexcept = default;
     ~Loaded() = default;
     Loaded& operator=(T loaded)
     {

@@ -61,6 +61,10 @@ public:
     // Fits pos, src and view of the object to the canvas: pushed back inside, or cropped at the edges.
     void ClipObject(ScreenObject& object, bool keepInside) const;
 
+    // Fits every object as the next frame will, and does nothing else that a frame does: afterwards no object lies at a
+    // negative position.
+    void FitAll();
+
     // Starts the object's appearance effect; nothing for EffectNone, a running effect or a missing object.
     void StartEffect(int32_t index);
     // Advances the effect of an object and draws it when a step is due.
@@ -74,6 +78,7 @@ public:
 
 private:
     void Add(std::unique_ptr<ScreenObject> object, ObjectKind kind);
+    void FitObject(ScreenObject& object) const;
 
     std::vector<std::unique_ptr<ScreenObject>> objects;
     std::vector<std::unique_ptr<PictureObject>> backgrounds;

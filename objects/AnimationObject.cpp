@@ -1,0 +1,129 @@
+#include "objects/AnimationObject.h"
+
+#include "objects/CanvasDrawing.h"
+#include "platform/Kernel.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int32_t defaultSections = 8;
+constexpr float defaultIntervalMs = 50.0F;
+constexpr uint32_t opaque = 255;
+
+// In double precision and cut to a whole number, so that the cadence of a fractional interval is kept; the clock wraps
+// around at 2^32, whatever the interval. An endless interval leaves the tick as it is.
+uint32_t AddToTick(uint32_t tick, float interval)
+{
+    constexpr double ticksPerTurn = 4294967296.0;
+    const double whole = std::trunc(double { interval } + tick);
+    if (!std::isfinite(whole))
+        return tick;
+    const double inTurn = std::fmod(whole, ticksPerTurn);
+    return static_cast<uint32_t>(inTurn < 0 ? inTurn + ticksPerTurn : inTurn);
+}
+
+// Where an extent at `pos` lies on an axis of the screen: pushed back from the far edge, never past the near one.
+int32_t KeepInside(int32_t pos, int32_t extent, int32_t screen)
+{
+    const int64_t furthest = std::max(int64_t { 0 }, int64_t { screen } - extent);
+    return static_cast<int32_t>(std::min(int64_t { std::max(pos, 0) }, furthest));
+}
+
+} // namespace
+
+void AnimationObject::Play()
+{
+    playing = true;
+    alpha = opaque;
+    const uint32_t now = GetTickCount();
+    tick = tick == neverStarted ? now : now - tick;
+}
+
+void AnimationObject::Pause()
+{
+    playing = false;
+    alpha = opaque;
+    tick = GetTickCount() - tick;
+}
+
+bool AnimationObject::Restart()
+{
+    frame = 0;
+    tick = neverStarted;
+    alpha = opaque;
+    playing = false;
+    return true;
+}
+
+void AnimationObject::SetSections(int32_t count)
+{
+    sections = std::max(count, 1);
+    frame = std::min(frame, sections - 1);
+}
+
+// One frame at most, however much time has passed: a late animation slows down and skips nothing.
+void AnimationObject::Advance()
+{
+    if (!playing || !(GetTickCount() - tick >= double { interval }))
+        return;
+    tick = AddToTick(tick, interval);
+    ++frame;
+    if (frame >= sections)
+        Restart();
+}
+
+bool AnimationObject::Draw(uint16_t* dest, int32_t pitch)
+{
+    Advance();
+    SetFrameView();
+    if (!dest || pitch < 1 || !FitFrame())
+        return false;
+    // The whole frame, without the offset that fitting gave it; the canvas alone cuts it.
+    const bool sideBySide = IsSideBySide();
+    const vec first = sideBySide ? vec { frame * view.x, 0 } : vec { 0, frame * view.y };
+    const vec whole = sideBySide ? vec { view.x, size.y } : vec { size.x, view.y };
+    return DrawOnCanvas(GetPicture(), dest, pitch, pos, first, whole, alpha);
+}
+
+bool AnimationObject::FitFrame()
+{
+    SetFrameView();
+    if (!GetPicture())
+        return false;
+    KeepOnScreen();
+    return true;
+}
+
+void AnimationObject::SetFrameView()
+{
+    if (IsSideBySide())
+        view.x = size.x / sections;
+    else
+        view.y = size.y / sections;
+}
+
+void AnimationObject::KeepOnScreen()
+{
+    src = { std::min(src.x, size.x), std::min(src.y, size.y) };
+    pos = { KeepInside(pos.x, view.x, ScreenWidth), KeepInside(pos.y, view.y, ScreenHeight) };
+    view = { std::clamp(view.x, 0, size.x), std::clamp(view.y, 0, size.y) };
+}
+
+// A square strip is hit over its whole height although only its top frame is drawn.
+bool AnimationObject::HitTest(vec point, vec)
+{
+    const int32_t height = size.x >= size.y ? size.y : size.y / sections;
+    return IsLoaded() && CoversPoint(pos, { view.x, height }, point);
+}
+
+void AnimationObject::Reset()
+{
+    PictureObject::Reset();
+    sections = defaultSections;
+    frame = 0;
+    interval = defaultIntervalMs;
+    playing = false;
+    tick = neverStarted;
+}

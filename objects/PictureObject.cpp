@@ -1,0 +1,106 @@
+#include "objects/PictureObject.h"
+
+#include "objects/CanvasDrawing.h"
+#include "platform/Path.h"
+
+#include <filesystem>
+#include <fstream>
+#include <new>
+#include <system_error>
+
+namespace {
+
+constexpr const char* pictureExtension = ".bmp";
+// Only fully opaque pixels count as hit.
+constexpr uint8_t maskThreshold = 31;
+
+// A folder can be opened, but not as a file.
+bool CanOpenFile(const std::string& name)
+{
+    const std::string path = platform::NativePath(name);
+    std::error_code unknown;
+    return !std::filesystem::is_directory(path, unknown) && std::ifstream(path, std::ios::binary).is_open();
+}
+
+} // namespace
+
+bool PictureObject::Load()
+{
+    if (!LoadPicture())
+        return false;
+    size = { SPic16X_::Width_(GetPicture()), SPic16X_::Height_(GetPicture()) };
+    view = size;
+    return BuildMask();
+}
+
+bool PictureObject::LoadPicture()
+{
+    const size_t extension = fileName.find(pictureExtension);
+    if (extension == std::string::npos)
+        return false;
+    loaded->picture.reset();
+    loaded->mask.reset();
+
+    const std::string companion = std::string(fileName).insert(extension, 1, 'a');
+    SPicOwner_ picture(CanOpenFile(companion)
+            ? SPic16X_::LoadBmpAlpha_(fileName.c_str(), companion.c_str(), 0, &loaded->pictureBytes)
+            : SPic16X_::LoadBmpKey_(fileName.c_str(), 0, 255, 0, 0, &loaded->pictureBytes, nullptr, nullptr));
+    if (!picture || loaded->pictureBytes == 0)
+        return false;
+    SPic16X_::ConvertTo555_(picture.get());
+    loaded->picture = std::move(picture);
+    return true;
+}
+
+bool PictureObject::BuildMask()
+{
+    loaded->maskBytes = SPic16X_::MaskSize_(GetPicture());
+    loaded->mask.reset(new (std::nothrow) uint8_t[loaded->maskBytes]);
+    if (loaded->mask && SPic16X_::MakeMask_(GetPicture(), loaded->mask.get(), maskThreshold) != 0)
+        return true;
+    loaded->picture.reset();
+    loaded->mask.reset();
+    return false;
+}
+
+bool PictureObject::Draw(uint16_t* dest, int32_t pitch)
+{
+    return DrawOnCanvas(GetPicture(), dest, pitch, pos, src, view, alpha);
+}
+
+bool PictureObject::HandleMessage(ObjectMessage, uint32_t, uint32_t)
+{
+    return false;
+}
+
+bool PictureObject::HitTest(vec point, vec screen)
+{
+    // A full-screen backdrop cannot be picked.
+    if (!IsLoaded() || (boundaryCheck && size == screen))
+        return false;
+    return CoversPoint(pos, view, point);
+}
+
+bool PictureObject::PixelHit(vec point)
+{
+    if (!IsLoaded() || point.x < 0 || point.y < 0)
+        return false;
+    const int64_t localX = int64_t { point.x } - pos.x;
+    const int64_t localY = int64_t { point.y } - pos.y;
+    if (localX < 0 || localX >= view.x || localY < 0 || localY >= view.y)
+        return false;
+    const int64_t x = src.x + localX;
+    const int64_t y = src.y + localY;
+    const uint16_t width = SPic16X_::Width_(GetPicture());
+    if (x < 0 || x >= width || y < 0 || y >= SPic16X_::Height_(GetPicture()))
+        return false;
+    return SPic16X_::MaskBit_(GetMask(), width, static_cast<uint16_t>(x), static_cast<uint16_t>(y));
+}
+
+void PictureObject::Reset()
+{
+    ResetFields();
+    fileName.clear();
+    loaded = LoadedPicture {};
+    mode = ModeStatic;
+}

@@ -1,0 +1,75 @@
+#include "objects/AnimationObject.h"
+#include "objects/ScreenDocument.h"
+#include "tests/objects/ObjectTest.h"
+
+#include <limits>
+#include <tuple>
+
+namespace {
+
+class AnimationObjectTest : public ObjectTest {
+protected:
+    int32_t FrameAfter(uint32_t milliseconds)
+    {
+        desktop.Advance(milliseconds);
+        Draw(animation);
+        return animation.GetFrame();
+    }
+    AnimationObject animation;
+};
+
+TEST_F(AnimationObjectTest, SkipsNoFrameKeepsItsTimeOverAPauseAndStopsOnTheFirst)
+{
+    desktop.SetClock(0xFFFFFFF0); // the clock wraps around during the first frame
+    animation.SetSections(3);
+    animation.Play();
+    EXPECT_EQ(FrameAfter(49), 0);
+    EXPECT_EQ(FrameAfter(31), 1);
+    animation.Pause();
+    EXPECT_EQ(FrameAfter(1000), 1);
+    animation.Play();
+    EXPECT_EQ(FrameAfter(19), 1);
+    EXPECT_EQ(FrameAfter(100), 2);
+    animation.SetSections(2);
+    EXPECT_EQ(animation.GetFrame(), 1);
+    EXPECT_EQ(FrameAfter(0), 0);
+    EXPECT_FALSE(animation.IsPlaying());
+}
+
+TEST_F(AnimationObjectTest, TakesAnyNumberAsTimePerFrame)
+{
+    const float endless = std::numeric_limits<float>::infinity();
+    const std::tuple<float, int32_t, uint32_t> cases[] = { { 16.75F, 1, 3000000017U }, { 20.5F, 0, 3000000001U },
+        { -0.5F, 1, 3000000000U }, { -3000000256.0F, 1, 4294967041U }, { -1e30F, 1, 0 }, { -endless, 1, 3000000001U },
+        { endless - endless, 0, 3000000001U } };
+    for (const auto& [interval, frame, tick] : cases) {
+        animation.Reset();
+        animation.SetInterval(interval);
+        desktop.SetClock(3000000001U);
+        animation.Play();
+        EXPECT_EQ(FrameAfter(20), frame) << interval;
+        EXPECT_EQ(animation.GetTick(), tick) << interval;
+    }
+}
+
+TEST_F(AnimationObjectTest, DrawsOneWholeFrameInsideTheScreen)
+{
+    const std::tuple<vec, vec, vec, int> cases[] = { { { 40, 40 }, { 1, 2 }, { 1, 2 }, 40 * 5 },
+        { { 400, 50 }, { 790, -20 }, { 750, 0 }, 50 * 50 }, { { 50, 400 }, { -20, INT32_MAX }, { 0, 550 }, 50 * 50 },
+        { { 8000, 650 }, { 30, 30 }, { 0, 30 }, 800 * 570 } };
+    for (const auto& [strip, pos, drawnAt, pixels] : cases) {
+        WriteStrip("strip.bmp", strip, 8, strip.x <= strip.y);
+        animation.Reset();
+        animation.SetFileName("strip.bmp");
+        animation.Load();
+        animation.SetPos(pos);
+        animation.SetInterval(0);
+        animation.Play();
+        ScreenDocument().ClipObject(animation, false);
+        EXPECT_EQ(FrameAfter(0), 1);
+        EXPECT_EQ(animation.GetPos(), drawnAt) << strip.x;
+        EXPECT_EQ(Drawn(), (std::map<uint16_t, int> { { SectionColor(1), pixels } })) << strip.x;
+    }
+}
+
+} // namespace
