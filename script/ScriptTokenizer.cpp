@@ -1,0 +1,204 @@
+#include "script/ScriptTokenizer.h"
+
+#include "platform/Kernel.h"
+#include "platform/Path.h"
+
+#include <algorithm>
+#include <fstream>
+#include <utility>
+
+namespace {
+
+constexpr std::string_view blanks = " \t\n";
+constexpr std::string_view punctuation = "(),;={}";
+constexpr std::string_view wordEnds = " \t\n(),;={}";
+constexpr std::string_view digits = "0123456789";
+constexpr std::string_view numberCharacters = "0123456789.";
+
+constexpr Token reservedWords[] = {
+    { ";", TokenType::Semicolon },
+    { "(", TokenType::OpenParen },
+    { ")", TokenType::CloseParen },
+    { "{", TokenType::OpenBrace },
+    { "}", TokenType::CloseBrace },
+    { "=", TokenType::Equals },
+    { ",", TokenType::Comma },
+    { "-", TokenType::Minus },
+    { "vec", TokenType::Vec },
+    { "Stage", TokenType::Stage },
+    { "Filename", TokenType::Filename },
+    { "PicturePos", TokenType::PictureKey },
+    { "PictureSize", TokenType::PictureKey },
+    { "PictureLayer", TokenType::PictureKey },
+    { "PictureAlpha", TokenType::PictureKey },
+    { "ButtonPos", TokenType::ButtonKey },
+    { "ButtonLayer", TokenType::ButtonKey },
+    { "ButtonAlpha", TokenType::ButtonKey },
+    { "ButtonSection", TokenType::ButtonKey },
+    { "ButtonPicSize", TokenType::ButtonKey },
+    { "AnimationPos", TokenType::AnimationKey },
+    { "AnimationLayer", TokenType::AnimationKey },
+    { "AnimationSection", TokenType::AnimationKey },
+    { "AnimationInterval", TokenType::AnimationKey },
+    { "AnimationPicSize", TokenType::AnimationKey },
+    { "WordPos", TokenType::WordKey },
+    { "WordText", TokenType::WordKey },
+    { "WordLayer", TokenType::WordKey },
+    { "WordAlpha", TokenType::WordKey },
+    { "CheckBoxPos", TokenType::CheckBoxKey },
+    { "CheckBoxText", TokenType::CheckBoxKey },
+    { "CheckBoxLayer", TokenType::CheckBoxKey },
+    { "CheckBoxAlpha", TokenType::CheckBoxKey },
+    { "SelectboxPos", TokenType::SelectboxKey },
+    { "SelectboxText", TokenType::SelectboxKey },
+    { "SelectboxLayer", TokenType::SelectboxKey },
+    { "SelectboxAlpha", TokenType::SelectboxKey },
+    { "SelectboxUpPic", TokenType::SelectboxKey },
+    { "SelectboxDownPic", TokenType::SelectboxKey },
+    { "SelectboxEditPic", TokenType::SelectboxKey },
+    { "ScreenPos", TokenType::ScreenKey },
+    { "ScreenSize", TokenType::ScreenKey },
+    { "Picture", TokenType::PictureBlock },
+    { "Button", TokenType::ButtonBlock },
+    { "Animation", TokenType::AnimationBlock },
+    { "Word", TokenType::WordBlock },
+    { "CheckBox", TokenType::CheckBoxBlock },
+    { "Selectbox", TokenType::SelectboxBlock },
+    { "ZULScreen", TokenType::Root },
+};
+
+constexpr bool IsOneOf(char character, std::string_view characters)
+{
+    return characters.find(character) != std::string_view::npos;
+}
+
+TokenType TypeOfNumber(std::string_view text)
+{
+    if (!IsOneOf(text.back(), digits) || text.find_first_not_of(numberCharacters) != std::string_view::npos)
+        return TokenType::Unknown;
+    return IsOneOf('.', text) ? TokenType::Real : TokenType::Integer;
+}
+
+// A folder opens like a file and then fails to read.
+bool ReadFileBytes(const std::string& nativePath, std::string& bytes)
+{
+    constexpr size_t chunk = 1 << 20;
+    std::ifstream file(nativePath, std::ios::binary);
+    while (file) {
+        const size_t used = bytes.size();
+        bytes.resize(used + chunk);
+        file.read(bytes.data() + used, chunk);
+        bytes.resize(used + static_cast<size_t>(file.gcount()));
+    }
+    return file.eof() && !file.bad();
+}
+
+void JoinLineEnds(std::string& text)
+{
+    size_t kept = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const bool beforeLineFeed = i + 1 < text.size() && text[i + 1] == '\n';
+        if (text[i] != '\r' || !beforeLineFeed)
+            text[kept++] = text[i];
+    }
+    text.resize(kept);
+}
+
+} // namespace
+
+bool ScriptTokenizer::Tokenize(const std::string& path)
+{
+    std::string script;
+    return ReadFileBytes(platform::NativePath(path), script) && TokenizeText(std::move(script));
+}
+
+bool ScriptTokenizer::TokenizeText(std::string script)
+{
+    tokens.clear();
+    cursor = 0;
+    text = std::move(script);
+    JoinLineEnds(text);
+    for (size_t position = 0; position < text.size();) {
+        if (!ReadElement(position))
+            return false;
+    }
+    return true;
+}
+
+void ScriptTokenizer::Next()
+{
+    if (cursor < tokens.size())
+        ++cursor;
+}
+
+// Reads the blank, comment or token that begins at `position` and steps past it.
+bool ScriptTokenizer::ReadElement(size_t& position)
+{
+    const size_t start = position;
+    if (IsOneOf(text[start], blanks)) {
+        ++position;
+        return true;
+    }
+    if (text[start] == '/')
+        return SkipComment(position);
+    position = EndOfElement(start);
+    if (position == std::string::npos)
+        return false;
+    return Append(std::string_view(text).substr(start, position - start));
+}
+
+bool ScriptTokenizer::SkipComment(size_t& position) const
+{
+    if (text.compare(position, 2, "//") != 0)
+        return false;
+    const size_t lineEnd = text.find('\n', position);
+    position = lineEnd == std::string::npos ? text.size() : lineEnd + 1;
+    return true;
+}
+
+// npos for a string that is not closed.
+size_t ScriptTokenizer::EndOfElement(size_t start) const
+{
+    if (IsOneOf(text[start], punctuation))
+        return start + 1;
+    if (text[start] == '"') {
+        const size_t quote = text.find('"', start + 1);
+        return quote == std::string::npos ? quote : quote + 1;
+    }
+    // A number ends at anything else, a word only at a blank or punctuation.
+    const size_t end = IsOneOf(text[start], digits) ? text.find_first_not_of(numberCharacters, start)
+                                                    : text.find_first_of(wordEnds, start);
+    return std::min(end, text.size());
+}
+
+bool ScriptTokenizer::Append(std::string_view element)
+{
+    Token token { element };
+    Classify(token);
+    if (token.type == TokenType::Unknown) {
+        OutputDebugStringA(std::string(element).c_str());
+        OutputDebugStringA("\n");
+        return false;
+    }
+    tokens.push_back(token);
+    return true;
+}
+
+void ScriptTokenizer::Classify(Token& token)
+{
+    token.type = TokenType::Unknown;
+    if (token.text.empty())
+        return;
+    if (IsOneOf(token.text.front(), digits)) {
+        token.type = TypeOfNumber(token.text);
+        return;
+    }
+    if (token.text.front() == '"') {
+        token.type = TokenType::String;
+        return;
+    }
+    const auto* const word = std::find_if(std::begin(reservedWords), std::end(reservedWords),
+        [&](const Token& reserved) { return reserved.text == token.text; });
+    if (word != std::end(reservedWords))
+        token.type = word->type;
+}

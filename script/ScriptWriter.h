@@ -1,0 +1,52 @@
+#pragma once
+
+#include "objects/vec.h"
+#include "script/ScreenInfo.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class AnimationObject;
+class ButtonObject;
+class CheckBoxObject;
+class PictureObject;
+class SelectboxObject;
+class WordObject;
+
+// Writes a screen as a screen script. Made for one save.
+class ScriptWriter {
+public:
+    // Replaces the file (a backslash path in code page 950) as a whole. False leaves it as it was: it cannot be
+    // written, or the screen has an unstorable text.
+    [[nodiscard]] bool Write(ScreenInfo info, const std::string& path);
+
+    // The first text that a script cannot hold, because a double quote is in it.
+    static std::optional<std::string> FindUnstorableText(const ScreenInfo& info);
+
+private:
+    void Compose();
+    vec ScreenExtent() const;
+    template <class Object> void WriteBlock(std::string_view word, ObjectKind kind);
+    void WriteStatements(const PictureObject& picture);
+    void WriteStatements(const ButtonObject& button);
+    void WriteStatements(const AnimationObject& animation);
+    void WriteStatements(const WordObject& word);
+    void WriteStatements(const CheckBoxObject& checkBox);
+    void WriteStatements(const SelectboxObject& selectbox);
+    void WriteOptions(const SelectboxObject& selectbox);
+    void WriteVec(std::string_view key, vec value);
+    void WriteSectionSize(std::string_view key, vec size);
+    void WriteInteger(std::string_view key, int32_t value);
+    void WriteAlphaUnlessOpaque(std::string_view key, const ScreenObject& object);
+    void WriteText(std::string_view key, const std::string& text);
+    std::string Quoted(const std::string& text);
+    void WriteLine(std::string_view text);
+
+    ScreenInfo screenInfo;
+    size_t level = 0; // of indentation
+    std::string script;
+    std::optional<std::string> unstorableText;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+enum class TokenType : uint8_t {
+    String = 0,
+    Semicolon = 1,
+    OpenParen = 2,
+    CloseParen = 3,
+    OpenBrace = 4,
+    CloseBrace = 5,
+    Equals = 6,
+    Comma = 7,
+    Minus = 8,
+    Real = 9,
+    Integer = 10,
+    Vec = 11,
+    Root = 12,
+    PictureBlock = 13,
+    ButtonBlock = 14,
+    AnimationBlock = 15,
+    Stage = 16,
+    Filename = 17,
+    WordBlock = 18,
+    CheckBoxBlock = 19,
+    SelectboxBlock = 20,
+    ScreenKey = 21,
+    AnimationKey = 22,
+    ButtonKey = 23,
+    PictureKey = 24,
+    WordKey = 25,
+    CheckBoxKey = 26,
+    SelectboxKey = 27,
+    Unknown = 28,
+};
+
+// One element of a screen script. The text is exactly as read (a string keeps its quotes) and lies in the tokenizer.
+struct Token {
+    std::string_view text;
+    TokenType type = TokenType::Unknown;
+};
