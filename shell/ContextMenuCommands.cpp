@@ -1,0 +1,187 @@
+#include "shell/ContextMenuCommands.h"
+
+#include "objects/AnimationObject.h"
+#include "objects/CheckBoxObject.h"
+#include "objects/ScreenDocument.h"
+#include "platform/Big5Literal.h"
+#include "platform/User.h"
+#include "resources/ResourceIds.h"
+#include "shell/AnimationDialog.h"
+#include "shell/ButtonDialog.h"
+#include "shell/CheckBoxDialog.h"
+#include "shell/PictureDialog.h"
+#include "shell/SelectboxDialog.h"
+#include "shell/ShellContext.h"
+
+namespace {
+
+HMENU MenuFor(ObjectKind kind)
+{
+    const ContextMenus& menus = Shell().menus;
+    switch (kind) {
+    case KindAnimation:
+        return menus.animation;
+    case KindCheckBox:
+        return menus.checkBox;
+    case KindSelectbox:
+        return menus.selectbox;
+    case KindNone:
+    case KindPicture:
+    case KindButton:
+    case KindWord:
+        break;
+    }
+    return menus.general;
+}
+
+ScreenObject* ObjectAtContextPoint()
+{
+    ScreenObject* object = nullptr;
+    Shell().document.GetObjectAt(object, Shell().editing.GetContextPoint());
+    return object;
+}
+
+INT_PTR RunDialog(const char* name, DLGPROC procedure)
+{
+    return DialogBoxParamA(Shell().instance, name, Shell().mainWindow, procedure, 0);
+}
+
+// Afterwards the whole client area is drawn anew.
+void EditProperties(const char* dialogName, DLGPROC procedure)
+{
+    if (RunDialog(dialogName, procedure) == 0)
+        MessageBoxA(Shell().mainWindow, u8"產生 Dialog 時發生錯誤"_big5, "Dialog Error", MB_OK);
+    else
+        InvalidateRect(Shell().mainWindow, nullptr, TRUE);
+}
+
+void EditObjectProperties()
+{
+    const ScreenObject* object = ObjectAtContextPoint();
+    if (!object)
+        return;
+    if (object->GetKind() == KindPicture)
+        EditProperties("ImageDialog", PictureDialogProc);
+    else if (object->GetKind() == KindButton)
+        EditProperties("BUTTONDIALOG", ButtonDialogProc);
+}
+
+void EditAnimationProperties()
+{
+    const ScreenObject* object = ObjectAtContextPoint();
+    if (object && object->GetKind() == KindAnimation)
+        EditProperties("ANIMATIONDIALOG", AnimationDialogProc);
+}
+
+void EditCheckBoxProperties()
+{
+    if (ObjectAtContextPoint())
+        EditProperties("CheckboxProp", CheckBoxDialogProc);
+}
+
+void EditSelectboxChoices()
+{
+    if (ObjectAtContextPoint())
+        static_cast<void>(RunDialog("SelectboxAddString", SelectboxDialogProc));
+}
+
+// Takes as many single steps as the object has layers below or above it.
+void MoveToEnd(bool down)
+{
+    ScreenDocument& document = Shell().document;
+    int32_t index = -1;
+    ScreenObject* object = nullptr;
+    if (!document.FindObjectAt(Shell().editing.GetPointer(), index) || !document.GetObject(index, object))
+        return;
+    const int32_t steps = down ? object->GetLayer() : document.GetLayerCount() - object->GetLayer();
+    for (int32_t i = 0; i < steps; ++i)
+        document.MoveLayer(index, down);
+}
+
+AnimationObject* AnimationAtContextPoint()
+{
+    return dynamic_cast<AnimationObject*>(ObjectAtContextPoint());
+}
+
+void PlayAnimation()
+{
+    if (AnimationObject* animation = AnimationAtContextPoint())
+        animation->Play();
+}
+
+void PauseAnimation()
+{
+    if (AnimationObject* animation = AnimationAtContextPoint())
+        animation->Pause();
+}
+
+void RestartAnimation()
+{
+    if (AnimationObject* animation = AnimationAtContextPoint())
+        animation->Restart();
+}
+
+void ToggleCheckBoxEnabled()
+{
+    if (auto* checkBox = dynamic_cast<CheckBoxObject*>(ObjectAtContextPoint()))
+        checkBox->SetEnabled(!checkBox->IsEnabled());
+}
+
+} // namespace
+
+void LoadContextMenus()
+{
+    const auto popup = [](const char* name) { return GetSubMenu(LoadMenuA(Shell().instance, name), 0); };
+    Shell().menus = {
+        .general = popup("PopUpMenu"),
+        .animation = popup("AnimationPopMenu"),
+        .checkBox = popup("CheckBoxPopMenu"),
+        .selectbox = popup("SelectboxPopMenu"),
+    };
+}
+
+void ShowContextMenu(ObjectKind kind, vec point)
+{
+    POINT corner { point.x, point.y };
+    ClientToScreen(Shell().mainWindow, &corner);
+    TrackPopupMenu(MenuFor(kind), TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, corner.x, corner.y, 0,
+        Shell().mainWindow, nullptr);
+}
+
+void RunContextMenuCommand(WORD id)
+{
+    switch (id) {
+    case MenuObjectProperties:
+        EditObjectProperties();
+        break;
+    case MenuToBottom:
+        MoveToEnd(true);
+        break;
+    case MenuToTop:
+        MoveToEnd(false);
+        break;
+    case MenuPlay:
+        PlayAnimation();
+        break;
+    case MenuPause:
+        PauseAnimation();
+        break;
+    case MenuRestart:
+        RestartAnimation();
+        break;
+    case MenuAnimationProperties:
+        EditAnimationProperties();
+        break;
+    case MenuToggleCheckBox:
+        ToggleCheckBoxEnabled();
+        break;
+    case MenuCheckBoxProperties:
+        EditCheckBoxProperties();
+        break;
+    case MenuSelectboxChoices:
+        EditSelectboxChoices();
+        break;
+    default:
+        break;
+    }
+}

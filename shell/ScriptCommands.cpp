@@ -1,0 +1,157 @@
+#include "shell/ScriptCommands.h"
+
+#include "objects/AnimationObject.h"
+#include "objects/ButtonObject.h"
+#include "objects/CheckBoxObject.h"
+#include "objects/PictureObject.h"
+#include "objects/SelectboxObject.h"
+#include "objects/WordObject.h"
+#include "platform/Big5Literal.h"
+#include "platform/User.h"
+#include "script/ParsedScreen.h"
+#include "script/ScreenInfo.h"
+#include "script/ScriptParser.h"
+#include "script/ScriptTokenizer.h"
+#include "script/ScriptWriter.h"
+#include "shell/CommandButtons.h"
+#include "shell/FileDialogs.h"
+#include "shell/MainWindow.h"
+#include "shell/ShellContext.h"
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int unparsableScriptCode = 16;
+
+bool BuildResources(PictureObject& picture)
+{
+    return picture.Load();
+}
+bool BuildResources(WordObject& word)
+{
+    return word.SetText(std::string(word.GetText()));
+}
+bool BuildResources(CheckBoxObject& checkBox)
+{
+    return checkBox.Build();
+}
+bool BuildResources(SelectboxObject& selectbox)
+{
+    return selectbox.Build();
+}
+
+// Rebuilds the parsed objects of one kind in their order; false at the first that cannot be built.
+template <class Kind>
+bool Rebuild(const std::vector<std::unique_ptr<Kind>>& parsed, void (ScreenDocument::*add)(std::unique_ptr<Kind>))
+{
+    for (const auto& each : parsed) {
+        auto object = std::make_unique<Kind>();
+        *object = *each;
+        if (!BuildResources(*object))
+            return false;
+        (Shell().document.*add)(std::move(object));
+    }
+    return true;
+}
+
+// Layers are numbered in this order, whatever the file says.
+bool RebuildAll(const ParsedScreen& screen)
+{
+    return Rebuild(screen.pictures, &ScreenDocument::AddPicture) && Rebuild(screen.buttons, &ScreenDocument::AddButton)
+        && Rebuild(screen.animations, &ScreenDocument::AddAnimation) && Rebuild(screen.words, &ScreenDocument::AddWord)
+        && Rebuild(screen.checkBoxes, &ScreenDocument::AddCheckBox)
+        && Rebuild(screen.selectboxes, &ScreenDocument::AddSelectbox);
+}
+
+ScreenInfo DescribeScreen()
+{
+    return {
+        .size = vec(ClientWidth, ClientHeight),
+        .pos = vec(0, 0),
+        .objects = Shell().document.GetObjects(),
+    };
+}
+
+void SayCannotSave(const char* text)
+{
+    MessageBoxA(Shell().mainWindow, text, u8"無法存檔"_big5, MB_OK);
+}
+
+// The screen is rebuilt from the file at once, so that it shows what the file holds.
+void SaveAndReload(const std::string& path)
+{
+    if (SaveScreenScript(path))
+        static_cast<void>(LoadScreenScript(path));
+}
+
+void LoadCommand()
+{
+    PathBuffer path;
+    if (OpenScriptFileDialog(path) && CheckIsScriptFile(path))
+        static_cast<void>(LoadScreenScript(path));
+}
+
+void SaveAsCommand()
+{
+    PathBuffer path;
+    if (OpenScriptFileDialog(path) && CheckIsScriptFile(path))
+        SaveAndReload(path);
+}
+
+} // namespace
+
+void RunScriptCommand(WORD id)
+{
+    if (id == CommandLoadScript)
+        LoadCommand();
+    else if (id == CommandSaveScriptAs)
+        SaveAsCommand();
+}
+
+void QuickSave()
+{
+    if (Shell().editing.HasFileName()) {
+        SaveAndReload(std::string(Shell().editing.GetFileName()));
+        return;
+    }
+    PathBuffer path;
+    static_cast<void>(OpenScriptFileDialog(path));
+    if (path[0] != '\0' && CheckIsScriptFile(path))
+        SaveAndReload(path);
+}
+
+bool LoadScreenScript(const std::string& path)
+{
+    ParsedScreen screen;
+    ScriptTokenizer tokenizer;
+    const bool parsed = ScriptParser::Parse(tokenizer, path, screen);
+    if (!parsed)
+        PostQuitMessage(unparsableScriptCode);
+
+    ShellContext& shell = Shell();
+    shell.document.Clear();
+    shell.editing.Reset();
+    const bool rebuilt = RebuildAll(screen);
+    if (rebuilt)
+        shell.editing.SetFileName(path);
+    shell.editing.SetObjectCount(shell.document.GetLayerCount());
+    return rebuilt;
+}
+
+bool SaveScreenScript(const std::string& path)
+{
+    Shell().document.FitAll(); // no position outside the canvas may reach the file
+    const ScreenInfo info = DescribeScreen();
+    if (const auto text = ScriptWriter::FindUnstorableText(info)) {
+        SayCannotSave(text->c_str());
+        return false;
+    }
+    if (!ScriptWriter().Write(info, path)) {
+        SayCannotSave((u8"無法寫入 "_big5 + path).c_str());
+        return false;
+    }
+    Shell().editing.SetFileName(path);
+    return true;
+}

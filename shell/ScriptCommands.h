@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Types.h"
+
+#include <string>
+
+// Runs the commands that load and save the screen script; other ids do nothing.
+void RunScriptCommand(WORD id);
+// Saves under the current file name, or asks for one where there is none yet.
+void QuickSave();
+
+// Replaces the screen by what the file holds, kind by kind. A file that cannot be parsed ends the editor with exit
+// status 16 once what was parsed is loaded. False when parsing failed or an object could not be built; the objects
+// before it stay. `path` is a backslash path in code page 950, as for saving.
+bool LoadScreenScript(const std::string& path);
+// Writes the screen and takes the name over. When the screen cannot be stored or written it says so in a message and
+// answers false; nothing has changed then.
+bool SaveScreenScript(const std::string& path);

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "objects/PictureObject.h"
+#include "platform/headless/HeadlessDesktop.h"
+#include "shell/ShellContext.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+// The editor on a headless desktop, in a folder of its own with a grey background and the pictures of the built-in
+// controls, and a designer's words for looking at it.
+class EditorTest : public testing::Test {
+protected:
+    EditorTest();
+
+    // Starts the editor; the tests of start-up itself do without.
+    void SetUp() override;
+
+    // Input queued on the desktop takes effect, then the idle step shows it.
+    void Play();
+    // Runs the main loop to its end and answers the exit status.
+    int RunToTheEnd();
+
+    // A grey picture file in the folder "Image" (or in the current one once the designer has moved into it), and an
+    // object that shows such a picture.
+    void WritePicture(const std::string& name, int width, int height);
+    PictureObject& AddPicture(vec pos, vec size);
+    ScreenObject& ObjectAt(int32_t index);
+    std::vector<int32_t> Selected() const;
+    // The caption and text of the latest message box, "caption: text"; empty when there was none.
+    std::string LatestMessage() const;
+
+    TemporaryFolder folder;
+    platform::HeadlessDesktop desktop;
+    ShellContext shell;
+};
