@@ -9,9 +9,11 @@ editor_pid=
 display_pids=()
 
 end_virtual_desktop() {
-    [ -n "$editor_pid" ] && kill "$editor_pid" 2>/dev/null
-    [ ${#display_pids[@]} -gt 0 ] && kill "${display_pids[@]}" 2>/dev/null
-    wait 2>/dev/null
+    # The display goes last, after its clients.
+    local pid
+    for pid in $editor_pid "${display_pids[@]}"; do
+        kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null
+    done
     rm -rf "$scratch"
 }
 trap end_virtual_desktop EXIT
@@ -43,7 +45,7 @@ start_virtual_desktop() {
     wait_until 10 test -s "$scratch/display" || fail "the virtual display did not start"
     export DISPLAY=:$(<"$scratch/display")
     openbox --config-file /dev/null >/dev/null 2>&1 &
-    display_pids+=($!)
+    display_pids=($! "${display_pids[@]}")
     wait_until 10 xprop -root _NET_SUPPORTING_WM_CHECK || fail "the window manager did not start"
 }
 
@@ -53,7 +55,7 @@ start_editor() {
     editor_pid=$!
     wait_until 20 xdotool search --onlyvisible --name '^編輯畫面輔助器$' || fail "the editor's window did not appear"
     window=$(xdotool search --onlyvisible --name '^編輯畫面輔助器$' | head -n 1)
-    xdotool windowactivate --sync "$window"
+    xdotool windowactivate --sync "$window" 2>/dev/null || true
     sleep 0.5
 }
 
@@ -92,25 +94,87 @@ drag() {
     settle
 }
 
-# other_window: a visible window of the editor beside the main one (a dialog, a message box).
+# A visible window of the editor beside the main one (a dialog, a message box), the newest; its id is then in
+# $other_window.
 find_other_window() {
-    other_window=$(xdotool search --onlyvisible --pid "$editor_pid" --name '.' | grep -vx "$window" | tail -n 1)
+    other_window=$(xdotool search --onlyvisible --pid "$editor_pid" --name '.' 2>/dev/null | grep -vx "$window" | tail -n 1)
     [ -n "$other_window" ]
 }
-wait_for_other_window() { wait_until 10 find_other_window && find_other_window && sleep 0.3; }
-wait_for_main_window() { wait_until 10 eval '! find_other_window' || fail "a window stayed open"; settle; }
+other_window_titled() { find_other_window && [ "$(xdotool getwindowname "$other_window")" = "$1" ]; }
+wait_for_window_titled() { wait_until 10 other_window_titled "$1" && find_other_window && sleep 0.2 || fail "no window \"$1\" came"; }
+no_other_window() { ! find_other_window; }
+wait_for_main_window() { wait_until 10 no_other_window || fail "a window stayed open"; settle; }
 
 # choose_file PATH: types it into the open file dialog and confirms.
 choose_file() {
-    wait_for_other_window || fail "the file dialog did not open"
+    wait_until 10 find_other_window || fail "the file dialog did not open"
+    find_other_window
+    sleep 0.3
     xdotool type --delay 5 "$1"
     xdotool key Return
     sleep 0.3
 }
 
-# pixel X Y: the colour of the window there, as RRGGBB.
-pixel() {
-    import -silent -window "$window" -crop "1x1+$1+$2" +repage -depth 8 txt:- | grep -oE '#[0-9A-F]{6}' | tail -n 1 \
-        | tr -d '#'
+# dialog_click X Y: in the dialog, in dialog units (2 by 2 pixels each).
+dialog_click() {
+    xdotool mousemove --window "$other_window" $(($1 * 2)) $(($2 * 2)) click 1
+    sleep 0.1
 }
+# fill_field X Y TEXT: replaces what the field there holds, by pasting.
+fill_field() {
+    dialog_click "$1" "$2"
+    printf '%s' "$3" | xclip -selection clipboard 2>/dev/null
+    xdotool key ctrl+a key ctrl+v
+    sleep 0.2
+}
+# choose_item X Y N: the N-th entry (from 0) of the drop-down there.
+choose_item() {
+    dialog_click "$1" "$2"
+    xdotool key alt+Down
+    sleep 0.2
+    xdotool key Home
+    local step
+    for ((step = 0; step < $3; step++)); do xdotool key Down; done
+    xdotool key Return
+    sleep 0.2
+}
+
+# menu_choose X Y N: opens the context menu there and takes the N-th item (from 1).
+menu_choose() {
+    click "$1" "$2" 3
+    sleep 0.3
+    local step
+    for ((step = 0; step < $3; step++)); do xdotool key Down; done
+    xdotool key Return
+    settle
+}
+
+# pixel X Y: the colour of the window there, as RRGGBB.
+pixel() { colours "$1" "$2" 1 1 | tail -n 1; }
+# colours X Y WIDTH HEIGHT: of each pixel of the rectangle, row by row.
+colours() {
+    import -silent -window "$window" -crop "$3x$4+$1+$2" +repage -depth 8 txt:- | grep -oE '#[0-9A-F]{6}' | tr -d '#'
+}
+# count_colour RRGGBB X Y WIDTH HEIGHT
+count_colour() {
+    local colour=$1
+    shift
+    colours "$@" | grep -cx "$colour" || true
+}
+# look X Y WIDTH HEIGHT: a fingerprint of the rectangle.
+look() { colours "$@" | md5sum; }
 screenshot() { import -silent -window "${2:-$window}" "$1"; }
+
+expect() { # expect WHAT ACTUAL EXPECTED
+    [ "$2" = "$3" ] || fail "$1: $2 instead of $3"
+}
+expect_other() { # expect_other WHAT ACTUAL BEFORE
+    [ "$2" != "$3" ] || fail "$1: nothing has changed"
+}
+# The red outline of a selected object at X Y of this size.
+expect_outline() {
+    local corner
+    for corner in "$1 $2" "$(($1 + $3 - 1)) $(($2 + $4 - 1))"; do
+        expect "the outline at $corner" "$(pixel $corner)" FF0000
+    done
+}
