@@ -54,7 +54,9 @@ QWidget* MakeCheckBox(Window& control, QWidget& parent, DesktopState& state)
 void DarkenDisabledText(QWidget& widget)
 {
     QPalette palette = widget.palette();
-    palette.setColor(QPalette::Disabled, QPalette::Text, palette.color(QPalette::Active, QPalette::PlaceholderText));
+    QColor dimmed = palette.color(QPalette::Active, QPalette::Text);
+    dimmed.setAlphaF(0.7F);
+    palette.setColor(QPalette::Disabled, QPalette::Text, dimmed);
     widget.setPalette(palette);
 }
 

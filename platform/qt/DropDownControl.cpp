@@ -55,6 +55,7 @@ QComboBox* MakeDropDown(Window& control, QWidget& parent, DesktopState& state)
     widget->setEditable(true);
     widget->setInsertPolicy(QComboBox::NoInsert);
     widget->setCompleter(nullptr);
+    widget->lineEdit()->setTextMargins(-3, 0, -3, 0); // the templates leave no room to spare beside the arrow
     // A text that happens to be an item's does not choose that item when the field is left.
     QObject::disconnect(widget->lineEdit(), &QLineEdit::editingFinished, widget, nullptr);
     QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, widget, [&control, &state, widget] {
