@@ -6,13 +6,13 @@
 
 namespace {
 
-template <bool mirrored> void CopyRow_(uint16_t* row, const uint16_t* pixels, size_t count)
+template <bool mirrored> void CopyRow_(uint16_t* row, const uint16_t* pixels, ptrdiff_t count)
 {
     if constexpr (!mirrored)
-        std::memcpy(row, pixels, count * sizeof *pixels);
+        std::memcpy(row, pixels, static_cast<size_t>(count) * sizeof *pixels);
     else
-        for (size_t i = 0; i < count; ++i)
-            *(row - i) = pixels[i];
+        for (ptrdiff_t i = 0; i < count; ++i)
+            PixelAt_<true>(row, i) = pixels[i];
 }
 
 template <bool mirrored> void BlendRow_(uint16_t* row, const uint16_t* pixels, ptrdiff_t count, SBlend_ blend)
@@ -29,7 +29,7 @@ template <bool mirrored> void DrawRows_(const SPic16_& picture, const SDrawTask_
     for (int32_t row = 0; row < task.height; ++row) {
         const uint16_t* pixels = task.StoredRow_(picture, row);
         if (task.level == 31)
-            CopyRow_<mirrored>(task.Row_(row), pixels, static_cast<size_t>(task.width));
+            CopyRow_<mirrored>(task.Row_(row), pixels, task.width);
         else
             BlendRow_<mirrored>(task.Row_(row), pixels, task.width, blend);
     }

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Draws pixels of one run: all of its indices but one, if any, with the same level.
+// Pixels of one run, drawn from `row` on at the level of the whole picture.
 template <bool mirrored> struct SRunDrawing_ {
     const uint16_t* palette;
     const uint8_t* data;
@@ -67,8 +67,7 @@ template <bool mirrored> void DrawRun_(uint16_t* row, const SRunCursor_& cursor,
 
 template <bool mirrored> void DrawRows_(const SPic16Sprite_& sprite, const SDrawTask_& task)
 {
-    SRunCursor_ cursor;
-    cursor.Init_(sprite);
+    SRunCursor_ cursor(sprite);
     cursor.SkipRows_(task.firstRow);
     const int32_t rightMargin = sprite.width - task.firstColumn - task.width;
     for (int32_t row = 0; row < task.height; ++row) {

@@ -51,8 +51,7 @@ uint32_t SPic16X_::MaskSize_(const SPic16X_* picture)
 
 uint32_t SPic16X_::MakeMask_(const SPic16X_* picture, uint8_t* mask, uint8_t threshold)
 {
-    SRunCursor_ cursor;
-    cursor.Init_(*static_cast<const SPic16Sprite_*>(picture));
+    SRunCursor_ cursor(*static_cast<const SPic16Sprite_*>(picture));
     const uint32_t rowBytes = MaskRowBytes_(cursor.width);
     std::fill_n(mask, size_t { rowBytes } * cursor.height, uint8_t { 0 });
     for (uint32_t y = 0; y < cursor.height; ++y) {

@@ -64,17 +64,16 @@ void SPic16X_::Draw_(const SPic16X_* picture, uint16_t* destination, int32_t pit
     const bool flipped = (flags & DrawFlipped) != 0;
     const ptrdiff_t startColumn = ptrdiff_t { destinationX } + (mirrored ? w - 1 : 0);
     const ptrdiff_t startRow = ptrdiff_t { destinationY } + (flipped ? h - 1 : 0);
-    SDrawTask_ task {
+    char* rowStart = reinterpret_cast<char*>(destination) + pitch * startRow;
+    const SDrawTask_ task {
         .firstRow = flipped ? picture->height - sourceY - h : sourceY,
         .firstColumn = mirrored ? picture->width - sourceX - w : sourceX,
         .width = w,
         .height = h,
-        .destination = nullptr,
+        .destination = reinterpret_cast<uint16_t*>(rowStart) + startColumn,
         .rowStep = flipped ? -ptrdiff_t { pitch } : pitch,
         .level = level,
         .mirrored = mirrored,
     };
-    task.destination
-        = reinterpret_cast<uint16_t*>(reinterpret_cast<char*>(destination) + pitch * startRow) + startColumn;
     SPicOps_::table.draw[picture->kind](picture, task);
 }

@@ -8,23 +8,22 @@
 // A place in a sprite's run stream. It only moves forwards, and trusts the stream to hold the pixels that are asked
 // for.
 struct SRunCursor_ {
-    uint32_t width = 0;
-    uint32_t height = 0;
-    const uint16_t* palette = nullptr;
-    const uint8_t* position = nullptr; // the next unread byte
+    uint32_t width;
+    uint32_t height;
+    const uint16_t* palette;
+    const uint8_t* position; // the next unread byte
     int32_t remaining = 0; // pixels left in the current run; 0: fetch the next one
     uint8_t runType = 0; // a RunType
-    uint8_t keyIndex = 0;
+    uint8_t keyIndex;
 
-    void Init_(const uint8_t* stream, uint32_t spriteWidth, uint32_t spriteHeight, uint8_t spriteKeyIndex,
-        const uint16_t* spritePalette)
+    // At the first pixel. The sprite must outlive the cursor.
+    explicit SRunCursor_(const SPic16Sprite_& sprite)
+        : width(sprite.width)
+        , height(sprite.height)
+        , palette(sprite.palette)
+        , position(sprite.Stream_())
+        , keyIndex(sprite.keyIndex)
     {
-        *this = { spriteWidth, spriteHeight, spritePalette, stream, 0, 0, spriteKeyIndex };
-    }
-
-    void Init_(const SPic16Sprite_& sprite)
-    {
-        Init_(sprite.Stream_(), sprite.width, sprite.height, sprite.keyIndex, sprite.palette);
     }
 
     // Reads the next control byte when the current run is used up.

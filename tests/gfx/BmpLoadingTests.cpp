@@ -1,4 +1,3 @@
-#include "gfx/BmpReader.h"
 #include "gfx/Pic16Sprite.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/Grids.h"
@@ -6,32 +5,32 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace {
 
 using Bytes = std::vector<uint8_t>;
 
 constexpr uint32_t green = 0x00FF00;
 
+// Loads "p.bmp", alone or with "pa.bmp", and answers with its run stream; empty on failure.
 class BmpLoading : public testing::Test {
 protected:
-    bool LoadKey(uint8_t keyGreen = 255)
+    Bytes Take(SPic16X_* loaded)
     {
-        picture.reset(SPic16X_::LoadBmpKey_("p.bmp", 0, keyGreen, 0, 0, &size, nullptr, nullptr));
-        return picture != nullptr;
+        picture.reset(loaded);
+        return loaded ? Bytes(Sprite().Stream_(), Sprite().Stream_() + size - SPic16Sprite_::headBytes) : Bytes();
     }
-    bool LoadAlpha()
+    Bytes LoadKey(uint8_t keyGreen = 255, uint32_t trim = 0)
     {
-        picture.reset(SPic16X_::LoadBmpAlpha_("p.bmp", "pa.bmp", 0, &size));
-        return picture != nullptr;
+        return Take(SPic16X_::LoadBmpKey_("p.bmp", 0, keyGreen, 0, trim, &size, &left, &top));
     }
+    Bytes LoadAlpha() { return Take(SPic16X_::LoadBmpAlpha_("p.bmp", "pa.bmp", 0, &size)); }
     const SPic16Sprite_& Sprite() const { return static_cast<const SPic16Sprite_&>(*picture); }
-    Bytes Stream() const { return { Sprite().Stream_(), Sprite().Stream_() + size - SPic16Sprite_::headBytes }; }
 
     const TemporaryFolder folder;
     SPicOwner_ picture;
     uint32_t size = 0;
+    uint16_t left = 99;
+    uint16_t top = 99;
 };
 
 TEST_F(BmpLoading, TakesOpacityFromTheCompanion)
@@ -44,19 +43,14 @@ TEST_F(BmpLoading, TakesOpacityFromTheCompanion)
     alphas.indices = { 255, 0, 128, 7, 8, 248 };
     alphas.palette[8] = 0xFFFF08; // only blue counts
     alphas.Write("pa.bmp");
-    ASSERT_TRUE(LoadAlpha());
-    EXPECT_EQ(picture->kind, PicSprite);
-    EXPECT_EQ(picture->width, 3);
-    EXPECT_EQ(picture->height, 2);
-    EXPECT_EQ(Stream(), (Bytes { 0x40, 1, 0x00, 0x80, 3, 16, 0x00, 0x80, 5, 1, 0x40, 6 }));
+    EXPECT_EQ(LoadAlpha(), (Bytes { 0x40, 1, 0x00, 0x80, 3, 16, 0x00, 0x80, 5, 1, 0x40, 6 }));
+    ASSERT_TRUE(picture && picture->kind == PicSprite && picture->width == 3 && picture->height == 2);
     EXPECT_EQ(Sprite().palette[6], 0x118A); // 565 without the lowest green bit
-    for (const auto& [columns, rows] : { std::pair(2, 3), { 3, 1 }, { 4, 2 } }) {
-        BmpFile(columns, rows).Write("pa.bmp");
-        EXPECT_FALSE(LoadAlpha());
-    }
+    BmpFile(2, 3).Write("pa.bmp");
+    EXPECT_TRUE(LoadAlpha().empty() && !picture);
 }
 
-TEST_F(BmpLoading, MakesTheHighestGreenIndexTransparent)
+TEST_F(BmpLoading, MakesTheHighestKeyedIndexTransparent)
 {
     BmpFile bmp(3, 1);
     bmp.indices = { 3, 200, 4 };
@@ -64,25 +58,18 @@ TEST_F(BmpLoading, MakesTheHighestGreenIndexTransparent)
         bmp.palette[3] = color3;
         bmp.palette[200] = color200;
         bmp.Write("p.bmp");
-        return LoadKey() ? Stream() : Bytes {};
+        return LoadKey();
     };
     EXPECT_EQ(streamWith(green, 0), (Bytes { 0x00, 0x41, 200, 4 }));
     EXPECT_EQ(streamWith(green, 0x07F807), (Bytes { 0x40, 3, 0x00, 0x40, 4 })); // equal in 16 bits
     EXPECT_EQ(streamWith(0x08FF00, 0x00F700), (Bytes { 0x42, 3, 200, 4 }));
-}
-
-TEST_F(BmpLoading, LooksForTheKeyOnlyAmongDefinedColors)
-{
-    BmpFile bmp(2, 1);
-    bmp.indices = { 15, 255 };
-    bmp.palette.assign(16, 0xFFFFFF);
+    bmp.indices[0] = 255;
+    bmp.palette.assign(16, 0xFFFFFF); // 255 is undefined: black, but not to be found
     bmp.Write("p.bmp");
-    ASSERT_TRUE(LoadKey(0));
-    EXPECT_EQ(Stream(), (Bytes { 0x41, 15, 255 }));
+    EXPECT_EQ(LoadKey(0), (Bytes { 0x42, 255, 200, 4 }));
     bmp.palette.clear(); // stands for 256 black entries
     bmp.Write("p.bmp");
-    ASSERT_TRUE(LoadKey(0));
-    EXPECT_EQ(Stream(), (Bytes { 0x40, 15, 0x00 }));
+    EXPECT_EQ(LoadKey(0), (Bytes { 0x00, 0x41, 200, 4 }));
 }
 
 TEST_F(BmpLoading, FindsThePaletteByTheHeaderSizes)
@@ -95,8 +82,8 @@ TEST_F(BmpLoading, FindsThePaletteByTheHeaderSizes)
         bytes.insert(14 + headerSize + 4 * 3, "\xFF\xFF\xFF"); // part of an entry
         PutLong(bytes, 10, 14 + headerSize + 15);
         WriteBytes("p.bmp", bytes);
-        ASSERT_TRUE(LoadKey());
-        EXPECT_EQ(Sprite().palette[1], 0xF800);
+        EXPECT_EQ(LoadKey(), (Bytes { 0x43, 1, 1, 1, 1 }));
+        ASSERT_TRUE(picture);
         EXPECT_EQ(Sprite().palette[2], 0x001F);
         EXPECT_EQ(Sprite().palette[3], 0);
     }
@@ -106,26 +93,22 @@ TEST_F(BmpLoading, TrimsOnRequest)
 {
     const struct {
         Grid whole;
-        int width, height, left, top;
+        std::vector<int> place; // width, height, left, top
         Bytes trimmed;
     } cases[] = {
-        { { "...", "..a", "...", "b.c", "..." }, 3, 3, 0, 1, { 0x01, 0x40, 'a', 0x02, 0x40, 'b', 0x00, 0x40, 'c' } },
-        { { "...a", "....", ".b.." }, 3, 3, 1, 0, { 0x01, 0x40, 'a', 0x02, 0x40, 'b', 0x01 } },
-        { { "ab", "cd" }, 2, 2, 0, 0, { 0x43, 'a', 'b', 'c', 'd' } },
-        { { "...", "..a" }, 1, 1, 2, 1, { 0x40, 'a' } },
-        { { "...", "..." }, 0, 0, 0, 0, {} },
+        { { "...", "..a", "...", "b.c", "..." }, { 3, 3, 0, 1 }, { 1, 0x40, 'a', 2, 0x40, 'b', 0, 0x40, 'c' } },
+        { { "...a", "....", ".b.." }, { 3, 3, 1, 0 }, { 1, 0x40, 'a', 2, 0x40, 'b', 1 } },
+        { { "...", "..a" }, { 1, 1, 2, 1 }, { 0x40, 'a' } },
+        { { "...", "..." }, { 0, 0, 0, 0 }, {} },
     };
-    for (const auto& [whole, width, height, left, top, trimmed] : cases) {
+    for (const auto& [whole, place, trimmed] : cases) {
         BmpFile bmp(static_cast<int>(whole[0].size()), static_cast<int>(whole.size()));
         bmp.indices = PlaneOf(whole, [](char letter) { return letter; });
         bmp.palette['.'] = green;
         bmp.Write("p.bmp");
-        uint16_t cutLeft = 99, cutTop = 99;
-        picture.reset(SPic16X_::LoadBmpKey_("p.bmp", 0, 255, 0, 1, &size, &cutLeft, &cutTop));
+        EXPECT_EQ(LoadKey(255, 1), trimmed);
         ASSERT_TRUE(picture);
-        const int results[] = { picture->width, picture->height, cutLeft, cutTop };
-        EXPECT_TRUE(std::ranges::equal(results, std::initializer_list<int> { width, height, left, top }));
-        EXPECT_EQ(Stream(), trimmed);
+        EXPECT_EQ((std::vector<int> { picture->width, picture->height, left, top }), place);
     }
 }
 

@@ -22,22 +22,15 @@ Bytes Encoded(const Grid& alphas)
     return stream;
 }
 
-SPicOwner_ SpriteOf(uint16_t width, uint16_t height, const Bytes& stream)
+Bytes MaskOf(uint16_t width, uint16_t height, const Bytes& stream, uint8_t threshold)
 {
     SPic16Sprite_* sprite = SPic16Sprite_::New_(width, height);
+    const SPicOwner_ owner(sprite);
     sprite->keyIndex = 7;
     std::copy(stream.begin(), stream.end(), sprite->Stream_());
-    return SPicOwner_(sprite);
-}
-
-Grid MaskOf(const SPicOwner_& sprite, uint8_t threshold)
-{
-    Bytes mask(SPic16X_::MaskSize_(sprite.get()), 0xA5);
-    EXPECT_EQ(SPic16X_::MakeMask_(sprite.get(), mask.data(), threshold), 1u);
-    return GridOf(sprite->width, sprite->height, [&](int x, int y) {
-        const auto column = static_cast<uint16_t>(x);
-        return SPic16X_::MaskBit_(mask.data(), sprite->width, column, static_cast<uint16_t>(y)) ? '#' : '.';
-    });
+    Bytes mask(SPic16X_::MaskSize_(sprite), 0xA5);
+    EXPECT_EQ(SPic16X_::MakeMask_(sprite, mask.data(), threshold), 1u);
+    return mask;
 }
 
 TEST(SpriteEncoding, GroupsPixelsOfOneTypeIntoRuns)
@@ -54,22 +47,19 @@ TEST(SpriteEncoding, GroupsPixelsOfOneTypeIntoRuns)
     };
     for (const auto& [alphas, stream] : cases)
         EXPECT_EQ(Encoded(alphas), stream) << alphas[0];
-    const Bytes opaque = Encoded({ std::string(65, '#') });
-    EXPECT_EQ(opaque.size(), 67u);
-    EXPECT_EQ(opaque[0], 0x7F);
-    EXPECT_EQ(opaque[65], 0x40);
-    EXPECT_EQ(SPic16Sprite_::Encode_(nullptr, opaque.data(), 1, 1, opaque.data()), 0u);
+    const uint8_t plane[] = { 255 };
+    EXPECT_EQ(SPic16Sprite_::Encode_(nullptr, plane, 1, 1, plane), 0u);
 }
 
 TEST(HitMasks, HoldThePixelsThatReachTheThreshold)
 {
-    const SPicOwner_ sprite = SpriteOf(9, 2, Encoded({ "##op.....", "....##.~#" }));
-    EXPECT_EQ(SPic16X_::MaskSize_(sprite.get()), 4u);
-    EXPECT_EQ(MaskOf(sprite, 31), (Grid { "##.......", "....##..#" }));
-    EXPECT_EQ(MaskOf(sprite, 16), (Grid { "##.#.....", "....##.##" }));
-    EXPECT_EQ(MaskOf(sprite, 0), (Grid { "####.....", "....##.##" }));
-    const SPicOwner_ trans = SpriteOf(3, 2, { 0xC5, 7, 1, 7, 2, 3, 7 });
-    EXPECT_EQ(MaskOf(trans, 31), (Grid { ".#.", "##." }));
+    const Bytes stream = Encoded({ "##op.....", "....##.~#" });
+    const Bytes opaque { 0b00000011, 0, 0b00110000, 1 };
+    EXPECT_EQ(MaskOf(9, 2, stream, 31), opaque);
+    EXPECT_EQ(MaskOf(9, 2, stream, 16), (Bytes { 0b00001011, 0, 0b10110000, 1 }));
+    EXPECT_TRUE(SPic16X_::MaskBit_(opaque.data(), 9, 8, 1));
+    EXPECT_FALSE(SPic16X_::MaskBit_(opaque.data(), 9, 8, 0) || SPic16X_::MaskBit_(opaque.data(), 9, 3, 1));
+    EXPECT_EQ(MaskOf(8, 1, { 0xC5, 7, 1, 7, 2, 3, 7, 0x41, 7, 1 }, 31), (Bytes { 0b11011010 }));
 }
 
 } // namespace

@@ -16,13 +16,3 @@ template <class ValueOf> std::vector<uint8_t> PlaneOf(const Grid& grid, ValueOf 
             plane.push_back(static_cast<uint8_t>(valueOf(letter)));
     return plane;
 }
-
-// letterAt(x, y) for every pixel.
-template <class LetterAt> Grid GridOf(int width, int height, LetterAt letterAt)
-{
-    Grid grid(static_cast<size_t>(height));
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            grid[static_cast<size_t>(y)] += static_cast<char>(letterAt(x, y));
-    return grid;
-}
