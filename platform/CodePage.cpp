@@ -149,9 +149,8 @@ uint32_t TakeUtf8(std::string_view& text)
 CodePageCharacter FirstCharacter(std::string_view text)
 {
     const auto lead = static_cast<uint8_t>(text.front());
-    if (lead < 0x80)
+    if (lead <= 0x80)
         return { lead, 1 };
-    // The bytes 80 and FF begin no pair and stand for nothing.
     if (!IsLead(lead) || text.size() < 2 || text[1] == '\0')
         return { 0, 1 };
     const int index = TrailIndex(static_cast<uint8_t>(text[1]));
@@ -177,7 +176,7 @@ std::string CodePageFromUtf8(std::string_view text)
     bytes.reserve(text.size());
     while (!text.empty()) {
         const uint32_t codePoint = TakeUtf8(text);
-        if (codePoint < 0x80)
+        if (codePoint <= 0x80)
             bytes += static_cast<char>(codePoint);
         else if (const uint16_t pair = Page().PairOf(codePoint))
             (bytes += static_cast<char>(pair >> 8)) += static_cast<char>(pair & 0xFF);
@@ -185,16 +184,6 @@ std::string CodePageFromUtf8(std::string_view text)
             bytes += '?';
     }
     return bytes;
-}
-
-bool CodePageCanSpell(std::string_view utf8)
-{
-    while (!utf8.empty()) {
-        const uint32_t codePoint = TakeUtf8(utf8);
-        if (codePoint >= 0x80 && Page().PairOf(codePoint) == 0)
-            return false;
-    }
-    return true;
 }
 
 std::string_view CutToBytes(std::string_view text, size_t limit)

@@ -9,8 +9,8 @@
 // the functions that call it are the only places where texts meet Unicode.
 namespace platform {
 
-// One character of a code-page text. A broken one (a lone lead byte, a pair that the page does not define) has no code
-// point; it takes two bytes where a second byte is there, except that a NUL is never swallowed.
+// One character of a code-page text. A broken one (a lone lead byte, FF, a pair that the page does not define) has no
+// code point; it takes two bytes where a second byte is there, except that a NUL is never swallowed.
 struct CodePageCharacter {
     uint32_t codePoint = 0; // 0: broken
     int length = 0; // bytes: 1 or 2
@@ -23,8 +23,6 @@ CodePageCharacter FirstCharacter(std::string_view text);
 std::string Utf8FromCodePage(std::string_view text);
 // What the page cannot spell becomes one "?" a character.
 std::string CodePageFromUtf8(std::string_view text);
-// Whether CodePageFromUtf8 would lose nothing.
-bool CodePageCanSpell(std::string_view utf8);
 
 // The longest beginning of `text` that has at most `limit` bytes and ends between two characters.
 std::string_view CutToBytes(std::string_view text, size_t limit);

@@ -1,20 +1,13 @@
-#include "platform/CodePage.h"
-#include "platform/DesktopEvents.h"
-#include "platform/MessageQueue.h"
+#include "platform/Controls.h"
+
 #include "platform/WindowTable.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 namespace platform {
 
 namespace {
-
-int Count(const Window& dropDown)
-{
-    return static_cast<int>(dropDown.items.size());
-}
 
 LRESULT AddItem(Window& dropDown, const char* text)
 {
@@ -43,7 +36,7 @@ LRESULT DeleteItem(Window& dropDown, WPARAM index)
         dropDown.text.clear();
     }
     ShowChange(dropDown);
-    return Count(dropDown);
+    return static_cast<LRESULT>(dropDown.items.size());
 }
 
 // An index outside the list empties the field.
@@ -67,8 +60,6 @@ LRESULT SendToDropDown(Window& dropDown, UINT message, WPARAM wParam, LPARAM lPa
         return SelectItem(dropDown, wParam);
     case CB_GETCURSEL:
         return dropDown.selection;
-    case CB_GETCOUNT:
-        return Count(dropDown);
     default:
         return 0;
     }
@@ -85,11 +76,6 @@ LRESULT SendToCheckBox(Window& checkBox, UINT message, WPARAM wParam)
     return 0;
 }
 
-bool IsNoDigit(char byte)
-{
-    return byte < '0' || byte > '9';
-}
-
 } // namespace
 
 LRESULT SendToControl(Window& control, UINT message, WPARAM wParam, LPARAM lParam)
@@ -101,49 +87,4 @@ LRESULT SendToControl(Window& control, UINT message, WPARAM wParam, LPARAM lPara
     return 0;
 }
 
-void EditTyped(Window& control, std::string_view text)
-{
-    if (!IsWindow(&control) || !TakesInput(control))
-        return;
-    if (control.kind == WindowKind::DropDown)
-        control.selection = -1;
-    else if (control.kind != WindowKind::Edit)
-        return;
-    control.text = text;
-    if (control.digitsOnly && std::erase_if(control.text, IsNoDigit) > 0)
-        ShowChange(control);
-}
-
-void ItemSelected(Window& dropDown, int index)
-{
-    if (!IsWindow(&dropDown) || !TakesInput(dropDown) || dropDown.kind != WindowKind::DropDown)
-        return;
-    if (index < 0 || index >= Count(dropDown))
-        return;
-    dropDown.selection = index;
-    dropDown.text = dropDown.items[static_cast<size_t>(index)];
-}
-
 } // namespace platform
-
-int GetWindowTextA(HWND window, char* text, int capacity)
-{
-    if (!text || capacity <= 0)
-        return 0;
-    text[0] = '\0';
-    if (!platform::IsWindow(window))
-        return 0;
-    const std::string_view copied = platform::CutToBytes(window->text, static_cast<size_t>(capacity) - 1);
-    std::memcpy(text, copied.data(), copied.size());
-    text[copied.size()] = '\0';
-    return static_cast<int>(copied.size());
-}
-
-BOOL SetWindowTextA(HWND window, const char* text)
-{
-    if (!platform::IsWindow(window))
-        return FALSE;
-    window->text = text ? text : "";
-    platform::ShowChange(*window);
-    return TRUE;
-}

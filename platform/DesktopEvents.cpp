@@ -16,13 +16,21 @@ bool TakesInputAsRoot(const Window& window, WindowKind kind)
     return IsWindow(&window) && window.kind == kind && TakesInput(window);
 }
 
-// Without a capture the mouse belongs to the window that it points into.
+bool Holds(const RECT& rectangle, POINT at)
+{
+    return at.x >= rectangle.left && at.y >= rectangle.top && at.x < rectangle.right && at.y < rectangle.bottom;
+}
+
+// Without a capture the mouse belongs to the window or button that it points to.
 bool TakesMouse(const Window& window, POINT at)
 {
     if (const Window* capture = CapturedWindow())
         return &RootOf(*capture) == &window;
     const RECT& place = window.place;
-    return at.x >= 0 && at.y >= 0 && at.x < place.right - place.left && at.y < place.bottom - place.top;
+    if (!Holds({ 0, 0, place.right - place.left, place.bottom - place.top }, at))
+        return false;
+    return std::none_of(window.children.begin(), window.children.end(),
+        [at](const auto& child) { return child->visible && Holds(child->place, at); });
 }
 
 UINT WithoutDoubleClicks(UINT message)
@@ -36,6 +44,11 @@ LPARAM MousePoint(POINT at)
 {
     const auto limited = [](int coordinate) { return std::clamp(coordinate, -0x8000, 0x7FFF); };
     return MAKELPARAM(limited(at.x), limited(at.y));
+}
+
+bool IsNoDigit(char byte)
+{
+    return byte < '0' || byte > '9';
 }
 
 void SendCommand(Window& window, int id, HWND control)
@@ -86,6 +99,29 @@ void DialogKey(Window& dialog, int command)
 {
     if (TakesInputAsRoot(dialog, WindowKind::Dialog))
         SendCommand(dialog, command, GetDlgItem(&dialog, command));
+}
+
+void EditTyped(Window& control, std::string_view text)
+{
+    if (!IsWindow(&control) || !TakesInput(control))
+        return;
+    if (control.kind == WindowKind::DropDown)
+        control.selection = -1;
+    else if (control.kind != WindowKind::Edit)
+        return;
+    control.text = text;
+    if (control.digitsOnly && std::erase_if(control.text, IsNoDigit) > 0)
+        ShowChange(control);
+}
+
+void ItemSelected(Window& dropDown, int index)
+{
+    if (!IsWindow(&dropDown) || !TakesInput(dropDown) || dropDown.kind != WindowKind::DropDown)
+        return;
+    if (index < 0 || static_cast<size_t>(index) >= dropDown.items.size())
+        return;
+    dropDown.selection = index;
+    dropDown.text = dropDown.items[static_cast<size_t>(index)];
 }
 
 } // namespace platform

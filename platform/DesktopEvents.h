@@ -9,7 +9,8 @@
 // box, a moved window) reaches the window procedure before the call returns.
 namespace platform {
 
-// A mouse message of a top-level window: client coordinates (may be outside while captured), MK_ flags.
+// A mouse message of a top-level window: client coordinates, MK_ flags. Outside the client area and over a button it is
+// dropped unless the mouse is captured.
 void PostMouse(Window& window, UINT message, POINT at, WPARAM keys);
 void PostKeyDown(Window& window, int virtualKey);
 
@@ -29,7 +30,8 @@ void ItemSelected(Window& dropDown, int index);
 // desktop is told of each window that it has open. A desktop calls this before it goes.
 void DiscardWindows();
 
-// Runs an inner message loop until `done` answers true: input is let in and messages are dispatched.
+// Runs an inner message loop until `done` answers true: input is let in and messages are dispatched. A quit request
+// waits for the loop outside.
 void RunModalLoop(const std::function<bool()>& done);
 
 } // namespace platform

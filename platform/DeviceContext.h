@@ -1,29 +1,24 @@
 #pragma once
 
 #include "platform/Gdi.h"
-#include "platform/Window.h"
+#include "platform/WindowTable.h"
 
 #include <algorithm>
 #include <cstddef>
 
 namespace platform {
 
-// Somewhere to draw and how: a window's surface or, for a context in memory, the selected bitmap.
+// Somewhere to draw and how: a window's surface, as long as the window lives, or, for a context in memory, the selected
+// bitmap.
 struct DeviceContext {
     bool inMemory = false;
     Window* window = nullptr;
     Bitmap* bitmap = nullptr;
-    Brush* brush = nullptr;
     Font* font = nullptr;
     COLORREF textColor = RGB(0, 0, 0);
     int backgroundMode = OPAQUE;
     int characterExtra = 0;
 };
-
-// The stock objects that every context starts with.
-Bitmap* NoBitmap(); // 0 by 0
-Brush* WhiteBrush();
-Font* DefaultFont();
 
 // The pixels of a surface (0x00RRGGBB) or of a bitmap (5-5-5).
 template <typename Pixel> struct PixelRows {
@@ -42,7 +37,7 @@ template <typename Draw> void DrawOn(const DeviceContext& context, Draw draw)
         const Bitmap& bitmap = *context.bitmap;
         if (bitmap.pixels)
             draw(PixelRows<uint16_t> { bitmap.pixels.get(), bitmap.width, bitmap.height, bitmap.stride });
-    } else if (context.window && !context.window->surface.pixels.empty()) {
+    } else if (IsWindow(context.window) && !context.window->surface.pixels.empty()) {
         Surface& surface = context.window->surface;
         draw(PixelRows<uint32_t> { surface.pixels.data(), surface.width, surface.height, surface.width });
     }

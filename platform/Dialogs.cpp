@@ -2,22 +2,11 @@
 #include "platform/DesktopEvents.h"
 #include "platform/DialogWindow.h"
 #include "platform/InputState.h"
-#include "platform/ResourceNames.h"
+#include "platform/Names.h"
 #include "platform/User.h"
 #include "platform/WindowTable.h"
 
 namespace {
-
-const platform::DialogTemplate* FindTemplate(HINSTANCE instance, const char* name)
-{
-    int number = 0;
-    if (!instance || platform::IsResourceNumber(name, number))
-        return nullptr;
-    for (const platform::DialogTemplate& source : instance->dialogs)
-        if (platform::SameName(source.name, name))
-            return &source;
-    return nullptr;
-}
 
 // The nearest window that the desktop shows: a question asked by a dialog that is still being made belongs to its
 // owner.
@@ -52,7 +41,7 @@ void RunDialog(platform::Window& dialog, LPARAM parameter)
 
 INT_PTR DialogBoxParamA(HINSTANCE instance, const char* templateName, HWND owner, DLGPROC procedure, LPARAM parameter)
 {
-    const platform::DialogTemplate* source = FindTemplate(instance, templateName);
+    const auto* source = instance ? platform::FindResource(instance->dialogs, templateName) : nullptr;
     if (!source || !procedure || !platform::InstalledDesktop() || (owner && !platform::IsWindow(owner)))
         return 0;
     const platform::ModalQuestion question(owner);

@@ -31,7 +31,8 @@ struct BITMAPINFO {
     BITMAPINFOHEADER bmiHeader;
 };
 
-// The drawing context of a window's client area; ReleaseDC gives it back and lets the desktop show what was drawn.
+// The drawing context of a window's client area, null when there is no such window; ReleaseDC gives it back and lets
+// the desktop show what was drawn. Once the window is gone, its context draws nowhere.
 HDC GetDC(HWND window);
 int ReleaseDC(HWND window, HDC context);
 // A context in memory; it draws nowhere until a bitmap is selected. Only a null reference context is supported.

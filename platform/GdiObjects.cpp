@@ -1,6 +1,4 @@
-#include "platform/GdiObjects.h"
-
-#include "platform/DeviceContext.h"
+#include "platform/Gdi.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -30,4 +30,9 @@ struct Font final : GdiObject {
     int cellHeight = 16;
 };
 
+// The system's own objects; every context starts with the bitmap, which is 0 by 0, and the font.
+Bitmap* NoBitmap();
+Brush* WhiteBrush();
+Font* DefaultFont();
+
 } // namespace platform

@@ -1,5 +1,5 @@
+#include "platform/CellFont.h"
 #include "platform/DeviceContext.h"
-#include "platform/Glyphs.h"
 
 #include <algorithm>
 #include <limits>

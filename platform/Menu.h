@@ -18,4 +18,7 @@ struct Menu {
     std::vector<std::unique_ptr<Menu>> popups;
 };
 
+// Forgets every loaded menu.
+void ForgetMenus();
+
 } // namespace platform

@@ -1,10 +1,9 @@
 #include "platform/MessageQueue.h"
 
+#include "platform/Controls.h"
 #include "platform/Desktop.h"
 #include "platform/DesktopEvents.h"
-#include "platform/DeviceContext.h"
 #include "platform/Gdi.h"
-#include "platform/Kernel.h"
 #include "platform/WindowTable.h"
 
 #include <deque>
@@ -91,9 +90,7 @@ void DeliverErase(Window& window)
     window.erasePending = false;
     const HDC context = GetDC(&window);
     SendMessageA(&window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(context), 0);
-    if (!IsWindow(&window))
-        context->window = nullptr;
-    ReleaseDC(context->window, context);
+    ReleaseDC(&window, context);
 }
 
 void RunModalLoop(const std::function<bool()>& done)
@@ -117,8 +114,12 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
     // Only the whole queue can be asked for, and only to take from it.
     if (!message || window || first != 0 || last != 0 || remove != PM_REMOVE)
         return FALSE;
-    LetInputIn(false);
     DeliverErases();
+    // What is queued was done before what the user does now, and some of that is sent without queueing.
+    if (Queue().messages.empty()) {
+        LetInputIn(false);
+        DeliverErases();
+    }
     if (const auto taken = TakeMessage()) {
         *message = *taken;
         return TRUE;
@@ -171,8 +172,7 @@ BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (window && !platform::IsWindow(window))
         return FALSE;
-    Queue().messages.push_back(
-        { .hwnd = window, .message = message, .wParam = wParam, .lParam = lParam, .time = GetTickCount() });
+    Queue().messages.push_back({ window, message, wParam, lParam });
     return TRUE;
 }
 

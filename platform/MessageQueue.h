@@ -13,7 +13,4 @@ void ClearMessages();
 // Sends WM_ERASEBKGND to a window that is visible and waits for its erase.
 void DeliverErase(Window& window);
 
-// A control's own answer to the messages that programs send it.
-LRESULT SendToControl(Window& control, UINT message, WPARAM wParam, LPARAM lParam);
-
 } // namespace platform

@@ -1,6 +1,7 @@
 #include "platform/Path.h"
 
 #include "platform/CodePage.h"
+#include "platform/Names.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -22,18 +23,6 @@ bool IsFileName(std::string_view text)
     return true;
 }
 
-char LowerCase(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-// Letters are those of ASCII; every other character is only equal to itself.
-bool DifferInCaseOnly(std::string_view left, std::string_view right)
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-        [](char a, char b) { return LowerCase(a) == LowerCase(b); });
-}
-
 // How `name` is spelled in the folder ("" or ending in a slash): as it stands if that exists, else as the first
 // name in byte order that differs in case only, else as it stands.
 std::string SpellingIn(const std::string& folder, const std::string& name)
@@ -45,7 +34,7 @@ std::string SpellingIn(const std::string& folder, const std::string& name)
     fs::directory_iterator entry(folder.empty() ? "." : folder, error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
         const std::string entryName = entry->path().filename().native();
-        if (DifferInCaseOnly(entryName, name) && (found.empty() || entryName < found))
+        if (SameName(entryName, name) && (found.empty() || entryName < found))
             found = entryName;
     }
     return found.empty() ? name : found;
@@ -53,7 +42,8 @@ std::string SpellingIn(const std::string& folder, const std::string& name)
 
 bool HasDriveLetter(std::string_view path)
 {
-    return path.size() >= 2 && path[1] == ':' && LowerCase(path[0]) >= 'a' && LowerCase(path[0]) <= 'z';
+    return path.size() >= 2 && path[1] == ':'
+        && ((path[0] >= 'a' && path[0] <= 'z') || (path[0] >= 'A' && path[0] <= 'Z'));
 }
 
 } // namespace
@@ -91,10 +81,13 @@ std::optional<std::string> CodePagePath(std::string_view nativePath)
         return std::nullopt;
     std::string path = absolute.lexically_normal().native();
     // A backslash within a name would come back as a separator.
-    if (!CodePageCanSpell(path) || path.find('\\') != std::string::npos || path.find('\0') != std::string::npos)
+    if (path.find('\\') != std::string::npos || path.find('\0') != std::string::npos)
         return std::nullopt;
     std::replace(path.begin(), path.end(), '/', '\\');
-    return CodePageFromUtf8(path);
+    std::string bytes = CodePageFromUtf8(path);
+    if (Utf8FromCodePage(bytes) != path)
+        return std::nullopt;
+    return bytes;
 }
 
 } // namespace platform

@@ -14,7 +14,6 @@ constexpr UINT WM_QUIT = 0x0012;
 constexpr UINT WM_ERASEBKGND = 0x0014;
 constexpr UINT WM_WINDOWPOSCHANGED = 0x0047;
 constexpr UINT WM_KEYDOWN = 0x0100;
-constexpr UINT WM_KEYUP = 0x0101;
 constexpr UINT WM_INITDIALOG = 0x0110;
 constexpr UINT WM_COMMAND = 0x0111;
 constexpr UINT WM_MOUSEMOVE = 0x0200;
@@ -66,7 +65,6 @@ constexpr int IDCANCEL = 2;
 
 constexpr UINT TPM_LEFTALIGN = 0x0000;
 constexpr UINT TPM_TOPALIGN = 0x0000;
-constexpr UINT TPM_LEFTBUTTON = 0x0000;
 constexpr UINT TPM_RIGHTBUTTON = 0x0002;
 
 constexpr UINT BM_GETCHECK = 0x00F0;
@@ -75,7 +73,6 @@ constexpr WPARAM BST_UNCHECKED = 0;
 constexpr WPARAM BST_CHECKED = 1;
 constexpr UINT CB_ADDSTRING = 0x0143;
 constexpr UINT CB_DELETESTRING = 0x0144;
-constexpr UINT CB_GETCOUNT = 0x0146;
 constexpr UINT CB_GETCURSEL = 0x0147;
 constexpr UINT CB_SETCURSEL = 0x014E;
 constexpr LRESULT CB_ERR = -1;
@@ -100,8 +97,6 @@ struct MSG {
     UINT message = 0;
     WPARAM wParam = 0;
     LPARAM lParam = 0;
-    DWORD time = 0;
-    POINT pt {};
 };
 
 // A resource is named by a text or by a number in a text's place.
@@ -111,8 +106,8 @@ inline const char* MAKEINTRESOURCEA(WORD id)
 }
 inline const char* const IDC_ARROW = MAKEINTRESOURCEA(32512);
 
-// Classes and windows. CreateWindowExA sends WM_CREATE before it returns; the class "BUTTON" is the system's push
-// button, which a window makes while it handles WM_CREATE.
+// Classes and windows (WindowClasses.cpp, WindowCreation.cpp, Windows.cpp). CreateWindowExA sends WM_CREATE before it
+// returns; the class "BUTTON" is the system's push button, which a window makes while it handles WM_CREATE.
 ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 HICON LoadIconA(HINSTANCE instance, const char* name);
 HCURSOR LoadCursorA(HINSTANCE instance, const char* name); // null instance: the system's
@@ -126,15 +121,20 @@ int GetSystemMetrics(int index);
 BOOL ShowWindow(HWND window, int showState);
 BOOL UpdateWindow(HWND window);
 BOOL InvalidateRect(HWND window, const RECT* rectangle, BOOL erase);
-HWND SetFocus(HWND window);
 LONG_PTR GetWindowLongA(HWND window, int index); // wide enough for GWL_HINSTANCE
 BOOL ClientToScreen(HWND window, POINT* point);
+// Copies at most `capacity` - 1 bytes, whole characters only. Returns the number of bytes copied.
+int GetWindowTextA(HWND window, char* text, int capacity);
+BOOL SetWindowTextA(HWND window, const char* text);
+
+// Keyboard and mouse (InputState.cpp).
+HWND SetFocus(HWND window);
 HWND SetCapture(HWND window);
 BOOL ReleaseCapture();
 int16_t GetKeyState(int virtualKey); // negative: held down
 
-// Messages. PeekMessageA takes (PM_REMOVE) the next message of all windows without waiting; a quit request comes once
-// nothing else is left.
+// Messages (MessageQueue.cpp). PeekMessageA takes (PM_REMOVE) the next message of all windows without waiting; a quit
+// request comes once nothing else is left.
 BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
 BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
@@ -143,17 +143,14 @@ LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 void PostQuitMessage(int exitCode);
 
-// Menus. A choice arrives as a posted WM_COMMAND of the owner.
+// Menus (Menu.cpp). A choice arrives as a posted WM_COMMAND of the owner.
 HMENU LoadMenuA(HINSTANCE instance, const char* name);
 HMENU GetSubMenu(HMENU menu, int position);
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rectangle);
 
-// Dialogs and message boxes, all modal. DialogBoxParamA answers EndDialog's result, 0 when the dialog could not be
-// made, -1 when it went with its owner.
+// Dialogs and message boxes (Dialogs.cpp), all modal. DialogBoxParamA answers EndDialog's result, 0 when the dialog
+// could not be made, -1 when it went with its owner.
 int MessageBoxA(HWND owner, const char* text, const char* caption, UINT type);
 INT_PTR DialogBoxParamA(HINSTANCE instance, const char* templateName, HWND owner, DLGPROC procedure, LPARAM parameter);
 BOOL EndDialog(HWND dialog, INT_PTR result);
 HWND GetDlgItem(HWND dialog, int id);
-// Copies at most `capacity` - 1 bytes, whole characters only. Returns the number of bytes copied.
-int GetWindowTextA(HWND window, char* text, int capacity);
-BOOL SetWindowTextA(HWND window, const char* text);

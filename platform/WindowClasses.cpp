@@ -1,6 +1,6 @@
 #include "platform/WindowClasses.h"
 
-#include "platform/ResourceNames.h"
+#include "platform/Names.h"
 #include "platform/Resources.h"
 
 #include <cstdint>
@@ -33,7 +33,7 @@ std::deque<RegisteredClass>& Classes()
 const WNDCLASSEXA* FindWindowClass(const char* name)
 {
     for (const RegisteredClass& entry : Classes())
-        if (SameName(entry.name.c_str(), name))
+        if (SameName(entry.name, name))
             return &entry.windowClass;
     return nullptr;
 }
@@ -59,11 +59,11 @@ ATOM RegisterClassExA(const WNDCLASSEXA* windowClass)
 
 HICON LoadIconA(HINSTANCE instance, const char* name)
 {
-    int number = 0;
-    if (!instance || !platform::IsResourceNumber(name, number))
+    const auto number = platform::ResourceNumber(name);
+    if (!instance || !number)
         return nullptr;
     for (const platform::Icon& icon : instance->icons)
-        if (icon.id == number)
+        if (icon.id == *number)
             return &icon;
     return nullptr;
 }

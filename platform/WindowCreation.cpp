@@ -1,5 +1,5 @@
 #include "platform/Desktop.h"
-#include "platform/ResourceNames.h"
+#include "platform/Names.h"
 #include "platform/User.h"
 #include "platform/WindowClasses.h"
 #include "platform/WindowPlacement.h"
@@ -77,8 +77,7 @@ HWND CreateButton(HWND parent, const char* caption, DWORD style, RECT place, HME
 HWND CreateWindowExA(DWORD, const char* className, const char* windowName, DWORD style, int x, int y, int width,
     int height, HWND parent, HMENU menuOrId, HINSTANCE instance, void*)
 {
-    int number = 0;
-    if (!platform::InstalledDesktop() || platform::IsResourceNumber(className, number))
+    if (!platform::InstalledDesktop() || platform::ResourceNumber(className))
         return nullptr;
     if (platform::SameName(className, "BUTTON"))
         return CreateButton(parent, windowName, style, platform::PlaceAt(x, y, width, height), menuOrId);

@@ -3,7 +3,7 @@
 #include "platform/Desktop.h"
 #include "platform/DesktopEvents.h"
 #include "platform/InputState.h"
-#include "platform/MenuTable.h"
+#include "platform/Menu.h"
 #include "platform/MessageQueue.h"
 #include "platform/WindowClasses.h"
 

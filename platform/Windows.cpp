@@ -1,8 +1,11 @@
+#include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/MessageQueue.h"
 #include "platform/User.h"
 #include "platform/WindowPlacement.h"
 #include "platform/WindowTable.h"
+
+#include <cstring>
 
 namespace {
 constexpr int showStateHide = 0;
@@ -85,5 +88,27 @@ BOOL ClientToScreen(HWND window, POINT* point)
         point->x = platform::AddCoordinates(point->x, inner->place.left);
         point->y = platform::AddCoordinates(point->y, inner->place.top);
     }
+    return TRUE;
+}
+
+int GetWindowTextA(HWND window, char* text, int capacity)
+{
+    if (!text || capacity <= 0)
+        return 0;
+    text[0] = '\0';
+    if (!platform::IsWindow(window))
+        return 0;
+    const std::string_view copied = platform::CutToBytes(window->text, static_cast<size_t>(capacity) - 1);
+    std::memcpy(text, copied.data(), copied.size());
+    text[copied.size()] = '\0';
+    return static_cast<int>(copied.size());
+}
+
+BOOL SetWindowTextA(HWND window, const char* text)
+{
+    if (!platform::IsWindow(window))
+        return FALSE;
+    window->text = text ? text : "";
+    platform::ShowChange(*window);
     return TRUE;
 }

@@ -74,12 +74,6 @@ bool DialogDriver::IsChecked(int id) const
     return control && control->checked;
 }
 
-bool DialogDriver::IsEnabled(int id) const
-{
-    HWND control = Control(id);
-    return control && control->enabled;
-}
-
 void DialogDriver::SetText(int id, std::string_view text)
 {
     HWND control = Control(id);

@@ -24,7 +24,6 @@ public:
     std::vector<std::string> Items(int id) const;
     int Selection(int id) const; // -1: none
     bool IsChecked(int id) const;
-    bool IsEnabled(int id) const;
 
     // Replaces the text as typing does: digits-only fields drop what is no digit, a drop-down loses its selection,
     // what code page 950 cannot spell becomes "?".

@@ -79,7 +79,7 @@ Window* HeadlessDesktop::Focus() const
 const Surface& HeadlessDesktop::Screen() const
 {
     static const Surface none;
-    return topLevelWindows.empty() ? none : topLevelWindows.front()->surface;
+    return MainWindow() ? MainWindow()->surface : none;
 }
 
 uint32_t HeadlessDesktop::Pixel(int x, int y) const
@@ -127,12 +127,12 @@ bool HeadlessDesktop::IsKeyDown(int virtualKey)
         || (virtualKey == VK_CONTROL && (keysHeld & MK_CONTROL) != 0);
 }
 
-void HeadlessDesktop::Pump(bool wait)
+void HeadlessDesktop::Pump(bool)
 {
     if (!openDialogs.empty())
         WorkDialog();
     else if (!input.empty())
-        LetNextInputIn(wait);
+        LetNextInputIn();
     else
         CountIdlePump();
 }
@@ -160,10 +160,7 @@ void HeadlessDesktop::CountIdlePump()
 
 int HeadlessDesktop::ShowMessageBox(Window* owner, std::string_view text, std::string_view caption)
 {
-    messageBoxes.push_back({ .text = Utf8FromCodePage(text),
-        .caption = Utf8FromCodePage(caption),
-        .ownerTitle = owner ? Utf8FromCodePage(owner->text) : "",
-        .owner = owner });
+    messageBoxes.push_back({ Utf8FromCodePage(text), Utf8FromCodePage(caption), owner });
     return IDOK;
 }
 

@@ -16,7 +16,6 @@ namespace platform {
 struct ShownMessage {
     std::string text; // UTF-8
     std::string caption; // UTF-8
-    std::string ownerTitle; // UTF-8; empty without an owner
     Window* owner = nullptr; // may be gone by now: compare it, but do not look into it
 };
 
@@ -49,12 +48,13 @@ public:
     // What the program finds; before the window in question is made.
     void SetFrameSize(SIZE size) { frameSize = size; } // 6 by 32
     void SetDisplaySize(SIZE size) { displaySize = size; } // 1920 by 1080
-    // The clock stands still except for the program's Sleep, Wait and these.
+    // The clock stands still except for the program's Sleep and these.
     void SetClock(uint32_t milliseconds) { clock = milliseconds; }
     void Advance(uint32_t milliseconds) { clock += milliseconds; }
 
     // Queued input for the main window; points are client pixels, `keys` MK_SHIFT or MK_CONTROL held meanwhile (and,
-    // for GetKeyState, until the next piece of input). The flags of the mouse buttons are kept by themselves.
+    // for GetKeyState, until the next piece of input). Whether the left button is held
+    // is kept track of; the right one never stays down.
     void Press(int x, int y, WPARAM keys = 0);
     void MoveTo(int x, int y, WPARAM keys = 0);
     void Release(int x, int y, WPARAM keys = 0);
@@ -62,13 +62,10 @@ public:
     void DoubleClick(int x, int y, WPARAM keys = 0);
     void Drag(POINT from, POINT to, WPARAM keys = 0); // Press, MoveTo, Release
     void RightPress(int x, int y, WPARAM keys = 0);
-    void RightRelease(int x, int y, WPARAM keys = 0);
     void Key(int virtualKey, WPARAM keys = 0);
     void ClickButton(int id);
     void CloseBox();
     void MoveWindowTo(int x, int y); // of the client area, on the display
-    // Lets the clock go on before the next piece: Wait(1) makes room for one idle turn of a main loop.
-    void Wait(uint32_t milliseconds);
     // Runs `step` between two pieces of input, for a look at how things stand.
     void Do(std::function<void()> step);
 
@@ -119,9 +116,8 @@ public:
 private:
     using DialogScript = std::function<void(DialogDriver&)>;
     struct Input {
-        std::function<void(Window&)> act; // on the main window; empty where there is only a wait
+        std::function<void(Window&)> act; // on the main window
         WPARAM keys = 0;
-        uint32_t waitMs = 0;
     };
     struct OpenDialog {
         Window* window = nullptr;
@@ -130,8 +126,7 @@ private:
 
     void Queue(std::function<void(Window&)> act, WPARAM keys = 0);
     void QueueMouse(UINT message, int x, int y, WPARAM keys);
-    void LetNextInputIn(bool wait);
-    bool HasWaited(uint32_t milliseconds, bool sleepUntilThen);
+    void LetNextInputIn();
     void WorkDialog();
     void CountIdlePump();
 
@@ -139,9 +134,8 @@ private:
     SIZE displaySize { 1920, 1080 };
     uint32_t clock = 0;
     std::deque<Input> input;
-    std::optional<uint32_t> waitingSince;
     WPARAM keysHeld = 0;
-    WPARAM mouseButtonsHeld = 0;
+    bool leftButtonHeld = false;
     int idlePumps = 0;
 
     std::deque<DialogScript> dialogScripts;

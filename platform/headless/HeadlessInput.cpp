@@ -9,21 +9,16 @@ namespace platform {
 
 void HeadlessDesktop::Queue(std::function<void(Window&)> act, WPARAM keys)
 {
-    input.push_back({ .act = std::move(act), .keys = keys });
+    input.push_back({ std::move(act), keys });
 }
 
 void HeadlessDesktop::QueueMouse(UINT message, int x, int y, WPARAM keys)
 {
     const auto act = [this, message, x, y](Window& window) {
-        if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK)
-            mouseButtonsHeld |= MK_LBUTTON;
-        else if (message == WM_LBUTTONUP)
-            mouseButtonsHeld &= ~MK_LBUTTON;
-        else if (message == WM_RBUTTONDOWN)
-            mouseButtonsHeld |= MK_RBUTTON;
-        else if (message == WM_RBUTTONUP)
-            mouseButtonsHeld &= ~MK_RBUTTON;
-        PostMouse(window, message, { x, y }, mouseButtonsHeld | keysHeld);
+        if (message != WM_MOUSEMOVE && message != WM_RBUTTONDOWN)
+            leftButtonHeld = message != WM_LBUTTONUP;
+        const WPARAM buttons = (leftButtonHeld ? MK_LBUTTON : 0) | (message == WM_RBUTTONDOWN ? MK_RBUTTON : 0);
+        PostMouse(window, message, { x, y }, buttons | keysHeld);
     };
     Queue(act, keys);
 }
@@ -68,11 +63,6 @@ void HeadlessDesktop::RightPress(int x, int y, WPARAM keys)
     QueueMouse(WM_RBUTTONDOWN, x, y, keys);
 }
 
-void HeadlessDesktop::RightRelease(int x, int y, WPARAM keys)
-{
-    QueueMouse(WM_RBUTTONUP, x, y, keys);
-}
-
 void HeadlessDesktop::Key(int virtualKey, WPARAM keys)
 {
     Queue([virtualKey](Window& window) { PostKeyDown(window, virtualKey); }, keys);
@@ -99,37 +89,14 @@ void HeadlessDesktop::MoveWindowTo(int x, int y)
     Queue([x, y](Window& window) { WindowMoved(window, x, y); });
 }
 
-void HeadlessDesktop::Wait(uint32_t milliseconds)
-{
-    input.push_back({ .act = nullptr, .waitMs = milliseconds });
-}
-
 void HeadlessDesktop::Do(std::function<void()> step)
 {
     Queue([step = std::move(step)](Window&) { step(); });
 }
 
-bool HeadlessDesktop::HasWaited(uint32_t milliseconds, bool sleepUntilThen)
-{
-    if (!waitingSince)
-        waitingSince = clock;
-    if (sleepUntilThen && clock - *waitingSince < milliseconds)
-        clock = *waitingSince + milliseconds;
-    if (clock - *waitingSince < milliseconds)
-        return false;
-    waitingSince.reset();
-    return true;
-}
-
-void HeadlessDesktop::LetNextInputIn(bool wait)
+void HeadlessDesktop::LetNextInputIn()
 {
     idlePumps = 0;
-    for (; !input.empty() && input.front().waitMs > 0; input.pop_front()) {
-        if (!HasWaited(input.front().waitMs, wait))
-            return;
-    }
-    if (input.empty())
-        return;
     const Input next = std::move(input.front());
     input.pop_front();
     keysHeld = next.keys;

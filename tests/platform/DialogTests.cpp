@@ -54,7 +54,7 @@ TEST_F(Dialogs, HaveTheirControlsWhereTheTemplatePutsThem)
         EXPECT_EQ(list.place.bottom, 128);
         EXPECT_EQ(list.openHeight, 60);
         EXPECT_EQ(dialog.Text(DoneButton), "確定");
-        EXPECT_FALSE(dialog.IsEnabled(SizeField));
+        EXPECT_FALSE(GetDlgItem(dialog.Handle(), SizeField)->enabled);
     });
 }
 
@@ -90,7 +90,7 @@ TEST_F(Dialogs, KeepInputFromTheirOwnerButNotItsMessages)
     PostQuitMessage(16);
     Work([&](DialogDriver&) {
         EXPECT_EQ(desktop.Capture(), nullptr);
-        platform::PostMouse(*owner, WM_LBUTTONDOWN, { 1, 1 }, MK_LBUTTON);
+        platform::PostMouse(*owner, WM_LBUTTONDOWN, { 50, 50 }, MK_LBUTTON);
         platform::PostKeyDown(*owner, VK_DELETE);
         platform::ButtonClicked(*GetDlgItem(owner, 7));
         platform::CloseBoxClicked(*owner);
@@ -190,7 +190,9 @@ TEST_F(Dialogs, OwnTheMessageBoxesThatTheyShow)
         if (message == WM_INITDIALOG || (message == WM_COMMAND && wParam == DoneButton))
             MessageBoxA(dialog, u8"輸入 <b>"_big5, u8"有誤"_big5, MB_OK);
     };
-    desktop.OnDialog([](DialogDriver& dialog) {
+    HWND shown = nullptr;
+    desktop.OnDialog([&](DialogDriver& dialog) {
+        shown = dialog.Handle();
         dialog.Press(DoneButton);
         EXPECT_TRUE(dialog.Handle()->enabled);
         EndDialog(dialog.Handle(), 1);
@@ -198,7 +200,7 @@ TEST_F(Dialogs, OwnTheMessageBoxesThatTheyShow)
     RunDialog("SETTINGS", owner);
     ASSERT_EQ(desktop.MessageBoxes().size(), 2U);
     EXPECT_EQ(desktop.MessageBoxes()[0].owner, owner); // the dialog was not to be seen yet
-    EXPECT_EQ(desktop.MessageBoxes()[1].ownerTitle, "設定");
+    EXPECT_EQ(desktop.MessageBoxes()[1].owner, shown);
     EXPECT_EQ(desktop.MessageBoxes()[1].text, "輸入 <b>");
     EXPECT_EQ(desktop.MessageBoxes()[1].caption, "有誤");
 }

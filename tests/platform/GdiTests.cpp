@@ -1,9 +1,7 @@
-#include "platform/Window.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "tests/platform/MemoryCanvas.h"
+#include "tests/platform/WindowProgram.h"
 
 #include <climits>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -63,21 +61,35 @@ TEST_F(CopyingBits, CutsAtEveryEdge)
     EXPECT_EQ(copied, 0);
 }
 
-TEST(WindowContext, WidensFiveBitsToEightAndIsShownWhenItIsGivenBack)
+class WindowContext : public WindowProgram { };
+
+TEST_F(WindowContext, WidensFiveBitsToEightAndIsShownWhenItIsGivenBack)
 {
-    platform::HeadlessDesktop desktop;
-    platform::Window window;
-    window.surface.Resize(2, 1);
+    const HWND window = OpenWindow();
+    const int timesDrawn = desktop.TimesDrawn();
     const BITMAPINFO info = BitmapOf(2, -1);
     const uint16_t bits[] = { 0x8000 | 31 << 10 | 1 << 5 | 16, 4 << 10 | 30 << 5 };
-    const HDC context = GetDC(&window);
-    EXPECT_EQ(SetDIBitsToDevice(context, 0, 0, 2, 1, 0, 0, 0, 1, bits, &info, DIB_RGB_COLORS), 1);
-    EXPECT_EQ(window.surface.pixels, (std::vector<uint32_t> { 0x00FF0884, 0x0021F700 }));
-    EXPECT_EQ(ReleaseDC(&window, context), 1);
-    EXPECT_EQ(desktop.TimesDrawn(), 1);
-    const HDC nowhere = GetDC(nullptr);
-    EXPECT_TRUE(TextOutA(nowhere, 0, 0, "abc", 3));
-    EXPECT_EQ(ReleaseDC(nullptr, nowhere), 1);
+    const HDC context = GetDC(window);
+    EXPECT_EQ(SetDIBitsToDevice(context, 7, 8, 2, 1, 0, 0, 0, 1, bits, &info, DIB_RGB_COLORS), 1);
+    EXPECT_EQ(desktop.Pixel(7, 8), 0x00FF0884u);
+    EXPECT_EQ(desktop.Pixel(8, 8), 0x0021F700u);
+    EXPECT_EQ(ReleaseDC(nullptr, context), 0);
+    EXPECT_EQ(ReleaseDC(window, context), 1);
+    EXPECT_EQ(desktop.TimesDrawn(), timesDrawn + 1);
+}
+
+TEST_F(WindowContext, DrawsNowhereOnceItsWindowIsGone)
+{
+    const HWND window = OpenWindow();
+    const HDC context = GetDC(window);
+    SendMessageA(window, WM_CLOSE, 0, 0);
+    const int timesDrawn = desktop.TimesDrawn();
+    const RECT area { 0, 0, 9, 9 };
+    FillRect(context, &area, GetSysColorBrush(COLOR_WINDOW));
+    EXPECT_TRUE(TextOutA(context, 0, 0, "abc", 3));
+    EXPECT_EQ(ReleaseDC(window, context), 1);
+    EXPECT_EQ(desktop.TimesDrawn(), timesDrawn);
+    EXPECT_FALSE(GetDC(window));
 }
 
 TEST(Objects, ComeBackWhenAnotherOneOfTheirKindIsSelected)

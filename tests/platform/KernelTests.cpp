@@ -1,6 +1,5 @@
 #include "platform/Big5Literal.h"
 #include "platform/Kernel.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -57,16 +56,6 @@ TEST(WithoutADesktop, TheClockRunsAndTheLogGoesToStderr)
     testing::internal::CaptureStderr();
     OutputDebugStringA((u8"第 1 層"_big5 + std::string("\xA4")).c_str());
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "第 1 層\uFFFD");
-}
-
-TEST(WithADesktop, TheClockAndTheLogAreItsOwn)
-{
-    platform::HeadlessDesktop desktop;
-    desktop.SetClock(0xFFFFFFF0);
-    Sleep(0x20);
-    EXPECT_EQ(GetTickCount(), 0x10u);
-    OutputDebugStringA("1");
-    EXPECT_EQ(desktop.DebugMessages().at(0).text, "1");
 }
 
 } // namespace

@@ -12,9 +12,11 @@ TEST_F(Messages, ComeInOrderAndAQuitRequestLast)
     HWND window = OpenWindow();
     PostQuitMessage(16);
     PostMessageA(window, WM_COMMAND, 5, 0);
+    PostMessageA(window, WM_COMMAND, 6, 0);
     desktop.Key(VK_LEFT);
-    desktop.Press(3, 4);
-    EXPECT_EQ(Played(), (Log { "command 5", "key 37", "press 3 4" }));
+    desktop.Press(3, 40);
+    desktop.ClickButton(7); // is sent, but does not overtake what is queued
+    EXPECT_EQ(Played(), (Log { "command 5", "command 6", "key 37", "press 3 40", "command 7" }));
     MSG quit;
     ASSERT_TRUE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
     EXPECT_EQ(quit.message, WM_QUIT);
@@ -25,14 +27,14 @@ TEST_F(Messages, ComeInOrderAndAQuitRequestLast)
 TEST_F(Messages, TellADoubleClickOnlyToAClassThatAsksForIt)
 {
     HWND window = OpenWindow(CS_DBLCLKS);
-    desktop.DoubleClick(1, 2);
-    EXPECT_EQ(Played(), (Log { "press 1 2", "release 1 2", "double 1 2", "release 1 2" }));
+    desktop.DoubleClick(1, 20);
+    EXPECT_EQ(Played(), (Log { "press 1 20", "release 1 20", "double 1 20", "release 1 20" }));
     window->wantsDoubleClicks = false;
-    desktop.DoubleClick(1, 2);
-    EXPECT_EQ(Played(), (Log { "press 1 2", "release 1 2", "press 1 2", "release 1 2" }));
+    desktop.DoubleClick(1, 20);
+    EXPECT_EQ(Played(), (Log { "press 1 20", "release 1 20", "press 1 20", "release 1 20" }));
 }
 
-TEST_F(Messages, FollowTheMouseOutsideOnlyWhileItIsCaptured)
+TEST_F(Messages, FollowTheMouseOutsideAndOverButtonsOnlyWhileItIsCaptured)
 {
     OpenWindow();
     for (const bool captures : { false, true }) {
@@ -43,11 +45,14 @@ TEST_F(Messages, FollowTheMouseOutsideOnlyWhileItIsCaptured)
                 ReleaseCapture();
             return LRESULT { 0 };
         };
-        desktop.Drag({ 199, 99 }, { -5, 300 });
+        desktop.Press(199, 99);
+        desktop.MoveTo(19, 9); // on the button
+        desktop.MoveTo(-5, 300);
+        desktop.Release(-5, 300);
         desktop.MoveTo(200, 50);
-        desktop.MoveTo(10, 10);
+        desktop.MoveTo(10, 10); // beside the button
         EXPECT_EQ(Played(),
-            captures ? (Log { "press 199 99", "move -5 300", "release -5 300", "move 10 10" })
+            captures ? (Log { "press 199 99", "move 19 9", "move -5 300", "release -5 300", "move 10 10" })
                      : (Log { "press 199 99", "move 10 10" }));
         EXPECT_EQ(desktop.Capture(), nullptr);
     }
@@ -97,6 +102,7 @@ TEST_F(Messages, ForADestroyedWindowAreDroppedAndItsHandleIsHarmless)
         EXPECT_FALSE(GetClientRect(dead, &rectangle) || ClientToScreen(dead, &point) || SetWindowTextA(dead, "x"));
         EXPECT_FALSE(MoveWindow(dead, 0, 0, 1, 1, TRUE) || SetFocus(dead) || SetCapture(dead) || EndDialog(dead, 1));
         EXPECT_EQ(GetWindowLongA(dead, GWL_HINSTANCE), 0);
+        EXPECT_FALSE(GetDlgItem(dead, 7));
     }
     EXPECT_EQ(Played(), Log {});
 }

@@ -53,6 +53,7 @@ TEST(CodePagePath, IsAbsoluteAndComesBack)
 
 TEST(CodePagePath, RefusesWhatWouldNotComeBack)
 {
+    EXPECT_TRUE(CodePagePath("╞?.bmp"));
     for (const char* name : { "", "堃.bmp", "a\\b.bmp", "\xFF.bmp" })
         EXPECT_FALSE(CodePagePath(name)) << name;
 }

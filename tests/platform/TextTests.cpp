@@ -27,7 +27,7 @@ protected:
     {
         MemoryCanvas canvas(100, 20);
         SIZE size {};
-        const HGDIOBJ previous = SelectObject(canvas.context, font);
+        const HGDIOBJ previous = SelectObject(canvas.context, font); // null: the default font stays
         SetTextCharacterExtra(canvas.context, extra);
         SetTextColor(canvas.context, RGB(3, 5, 255));
         SetBkMode(canvas.context, mode);
@@ -73,6 +73,15 @@ TEST_F(TextLine, ShowsThePixelsOfTheFontsOwnStrikes)
     EXPECT_EQ(Drawn(u8"中文Ag ，一龘"_big5), expected);
     EXPECT_EQ(Extent(u8"中文Ag ，一龘"_big5).cx, pen);
     FT_Done_FreeType(library);
+}
+
+TEST_F(TextLine, IsSixteenPixelsHighWithoutAFontOfItsOwn)
+{
+    DeleteObject(font);
+    font = nullptr;
+    EXPECT_EQ(Extent("\xA4\xA4g").cy, 16);
+    EXPECT_EQ(Extent("\xA4\xA4g").cx, 14 + 7);
+    EXPECT_EQ(Extent("").cx, 0);
 }
 
 TEST_F(TextLine, AddsTheExtraAfterEveryCharacterOnItsWhiteBackgroundToo)

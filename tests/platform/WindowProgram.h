@@ -20,7 +20,7 @@ protected:
     // A visible window with a client area of 200 by 100 pixels at (50, 60) and a button 7 in its corner; its opening
     // is not noted.
     HWND OpenWindow(UINT classStyle = 0);
-    // What was noted since the last look, WM_WINDOWPOSCHANGED as "placed", a press at (1, 2) as "press 1 2".
+    // What was noted since the last look, WM_WINDOWPOSCHANGED as "placed", a press at (50, 60) as "press 50 60".
     Log TakeLog();
     Log Played(); // the same, once the input queued on the desktop is used up
     INT_PTR RunDialog(const char* name, HWND owner);

@@ -46,8 +46,7 @@ TEST_F(Windows, ArePlacedByTheirOuterRectangle)
     ASSERT_TRUE(GetClientRect(window, &client));
     EXPECT_EQ(client.right, 300);
     EXPECT_EQ(client.bottom, 50);
-    EXPECT_EQ(desktop.Screen().width, 300);
-    EXPECT_EQ(desktop.Screen().pixels.size(), 300U * 50U);
+    EXPECT_EQ(window->surface.pixels.size(), 300U * 50U);
     POINT corner { 1, 2 };
     ClientToScreen(window, &corner);
     EXPECT_EQ(corner.x, 104);
@@ -60,13 +59,13 @@ TEST_F(Windows, StayInRangeWhateverTheyAreAskedFor)
     HWND window = OpenWindow();
     for (const int extreme : { INT_MIN, -1, 0, INT_MAX }) {
         MoveWindow(window, extreme, extreme, extreme, extreme, FALSE);
-        EXPECT_GE(desktop.Screen().width, 0);
+        EXPECT_GE(window->surface.width, 0);
         POINT point { extreme, extreme };
         ClientToScreen(window, &point);
         MoveWindow(window, 0, 0, 10, extreme == INT_MAX ? 40 : extreme, FALSE);
     }
-    EXPECT_EQ(desktop.Screen().width, 4);
-    EXPECT_EQ(desktop.Screen().height, 8);
+    EXPECT_EQ(window->surface.width, 4);
+    EXPECT_EQ(window->surface.height, 8);
 }
 
 TEST_F(Windows, HearWhenTheUserMovesThemAndWhenTheyAreShown)

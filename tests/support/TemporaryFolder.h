@@ -2,8 +2,16 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <unistd.h>
+
+// The whole file; empty when there is none.
+inline std::string ReadBytes(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
 
 // A fresh folder that is the current one until the test ends.
 class TemporaryFolder {

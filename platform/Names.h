@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+// Names of classes, resources and files, which are the same when they differ in the case of ASCII letters only.
+namespace platform {
+
+bool SameName(std::string_view one, std::string_view other);
+// The number that stands in the place of a resource's name; nothing where there is a name.
+std::optional<int> ResourceNumber(const char* name);
+
+// The resource of the name, or null.
+template <typename Resource> const Resource* FindResource(std::span<const Resource> resources, const char* name)
+{
+    if (ResourceNumber(name))
+        return nullptr;
+    for (const Resource& resource : resources)
+        if (SameName(resource.name, name))
+            return &resource;
+    return nullptr;
+}
+
+} // namespace platform
