@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int32_t defaultSections = 8;
-constexpr float defaultIntervalMs = 50.0F;
 constexpr uint32_t opaque = 255;
 
 // In double precision and cut to a whole number, so that the cadence of a fractional interval is kept; the clock wraps
@@ -78,8 +76,9 @@ bool AnimationObject::Draw(uint16_t* dest, int32_t pitch)
 {
     Advance();
     SetFrameView();
-    if (!dest || pitch < 1 || !FitFrame())
+    if (!dest || pitch < 1 || !GetPicture())
         return false;
+    KeepOnScreen();
     // The whole frame, without the offset that fitting gave it; the canvas alone cuts it.
     const bool sideBySide = IsSideBySide();
     const vec first = sideBySide ? vec { frame * view.x, 0 } : vec { 0, frame * view.y };
@@ -87,13 +86,11 @@ bool AnimationObject::Draw(uint16_t* dest, int32_t pitch)
     return DrawOnCanvas(GetPicture(), dest, pitch, pos, first, whole, alpha);
 }
 
-bool AnimationObject::FitFrame()
+void AnimationObject::FitFrame()
 {
     SetFrameView();
-    if (!GetPicture())
-        return false;
-    KeepOnScreen();
-    return true;
+    if (GetPicture())
+        KeepOnScreen();
 }
 
 void AnimationObject::SetFrameView()
@@ -120,10 +117,5 @@ bool AnimationObject::HitTest(vec point, vec)
 
 void AnimationObject::Reset()
 {
-    PictureObject::Reset();
-    sections = defaultSections;
-    frame = 0;
-    interval = defaultIntervalMs;
-    playing = false;
-    tick = neverStarted;
+    *this = AnimationObject();
 }

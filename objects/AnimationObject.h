@@ -17,9 +17,9 @@ public:
     bool HitTest(vec point, vec screen) override;
     void Reset() override;
 
-    // The part of Draw that places the frame: `view` becomes that of one frame, and a loaded frame is kept on the screen.
-    // False when there is no picture.
-    bool FitFrame();
+    // The part of Draw that places the frame: `view` becomes that of one frame, and a loaded frame is kept on the
+    // screen.
+    void FitFrame();
 
     // Starts, or goes on where Pause stopped. All three make the animation opaque.
     void Play();

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int32_t defaultSections = 4;
 constexpr int32_t lookNormal = 0;
 constexpr int32_t lookHover = 1;
 constexpr int32_t lookPressed = 2;
@@ -79,9 +78,5 @@ bool ButtonObject::HitTest(vec point, vec)
 
 void ButtonObject::Reset()
 {
-    PictureObject::Reset();
-    sections = defaultSections;
-    section = lookNormal;
-    vertical = false;
-    boundaryCheck = true;
+    *this = ButtonObject();
 }

@@ -56,7 +56,7 @@ void PushInside(Axis& x, Axis& y)
     }
 }
 
-int32_t Narrow(int64_t value)
+int32_t Saturate(int64_t value)
 {
     using Limits = std::numeric_limits<int32_t>;
     return static_cast<int32_t>(std::clamp(value, int64_t { Limits::min() }, int64_t { Limits::max() }));
@@ -75,7 +75,7 @@ void ScreenDocument::ClipObject(ScreenObject& object, bool keepInside) const
         PushInside(x, y);
     else
         Crop(x, y);
-    object.SetPos({ Narrow(x.pos), Narrow(y.pos) });
-    object.SetSrc({ Narrow(x.src), Narrow(y.src) });
-    object.SetView({ Narrow(std::max(int64_t { 0 }, x.view)), Narrow(std::max(int64_t { 0 }, y.view)) });
+    object.SetPos({ Saturate(x.pos), Saturate(y.pos) });
+    object.SetSrc({ Saturate(x.src), Saturate(y.src) });
+    object.SetView({ Saturate(std::max(int64_t { 0 }, x.view)), Saturate(std::max(int64_t { 0 }, y.view)) });
 }

@@ -99,8 +99,5 @@ bool PictureObject::PixelHit(vec point)
 
 void PictureObject::Reset()
 {
-    ResetFields();
-    fileName.clear();
-    loaded = LoadedPicture {};
-    mode = ModeStatic;
+    *this = PictureObject();
 }

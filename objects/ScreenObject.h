@@ -68,7 +68,11 @@ public:
     // Whether the document keeps the object wholly inside the canvas (else it crops it). Setting also makes `view` the
     // full `size`.
     bool GetBoundaryCheck() const { return boundaryCheck; }
-    void SetBoundaryCheck(bool check);
+    void SetBoundaryCheck(bool check)
+    {
+        boundaryCheck = check;
+        view = size;
+    }
     // 0 to 255; 255 is opaque.
     uint32_t GetAlpha() const { return alpha; }
     void SetAlpha(uint32_t newAlpha) { alpha = newAlpha; }
@@ -81,9 +85,6 @@ protected:
     ScreenObject() = default;
     ScreenObject(const ScreenObject&) = default;
     ScreenObject& operator=(const ScreenObject&) = default;
-
-    // The base's share of Reset; boundaryCheck becomes false.
-    void ResetFields();
 
     ObjectKind kind = KindNone;
     vec pos { 0, 0 };

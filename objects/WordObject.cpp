@@ -11,9 +11,6 @@ constexpr DWORD notAntialiased = 3;
 constexpr DWORD variablePitch = 2;
 constexpr int32_t letterSpacing = 1;
 
-constexpr uint32_t blueLetters = 0xFF0000; // 0x00BBGGRR
-constexpr uint32_t blackKey = 0;
-
 } // namespace
 
 WordFont::WordFont()
@@ -51,9 +48,5 @@ bool WordObject::HitTest(vec point, vec)
 
 void WordObject::Reset()
 {
-    PictureObject::Reset();
-    text.clear();
-    font = WordFont();
-    textColor = SPic16X_::Color16_(blueLetters);
-    keyColor = SPic16X_::Color16_(blackKey);
+    *this = WordObject();
 }

@@ -45,6 +45,6 @@ public:
 private:
     std::string text;
     Loaded<WordFont> font;
-    uint16_t textColor = SPic16X_::Color16_(0xFF0000);
+    uint16_t textColor = SPic16X_::Color16_(0xFF0000); // blue, the value being 0x00BBGGRR
     uint16_t keyColor = SPic16X_::Color16_(0);
 };

@@ -3,8 +3,6 @@
 
 #include <tuple>
 
-namespace {
-
 using ButtonObjectTest = ObjectTest;
 
 TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
@@ -14,10 +12,9 @@ TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
               { "wide.bmp", { 90, 20 }, 4, { 22, 20 } }, { "square.bmp", { 60, 60 }, 4, { 60, 15 } },
               { "narrow.bmp", { 3, 2 }, 16, { 0, 2 } }, { "whole.bmp", { 9, 2 }, 0, { 9, 2 } } };
     for (const auto& [name, picture, sections, section] : cases) {
-        WriteStrip(name, picture, 1, false);
+        WriteStrip(name, picture, 1);
         ButtonObject button;
-        button.SetFileName(name);
-        ASSERT_TRUE(button.Load());
+        ASSERT_TRUE(Load(button, name));
         button.SetSections(sections);
         EXPECT_EQ(button.GetSize(), section) << name;
         EXPECT_TRUE(button.Load() && Draw(button)) << name;
@@ -27,23 +24,21 @@ TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
 
 TEST_F(ButtonObjectTest, FollowsTheMouseAndShowsItsLastSectionForAMissingLook)
 {
-    WriteStrip("button.bmp", { 20, 10 }, 2, false);
+    WriteStrip("button.bmp", { 10, 20 }, 2);
     ButtonObject button;
-    button.SetFileName("button.bmp");
     button.SetSections(2);
-    ASSERT_TRUE(button.Load());
+    ASSERT_TRUE(Load(button, "button.bmp"));
     const uint32_t in = Pointer(10, 10);
     const uint32_t out = Pointer(-1, 11);
-    const std::tuple<ObjectMessage, uint32_t, int32_t, bool> steps[] = { { MsgMouseMove, in, 1, true },
-        { MsgLeftUp, in, 1, false }, { MsgMouseMove, out, 0, false }, { MsgLeftDown, in, 2, true },
-        { MsgMouseMove, out, 2, false }, { MsgMouseMove, in, 2, true }, { MsgRightDown, in, 2, false },
-        { MsgLeftUp, in, 1, true }, { MsgLeftDown, in, 2, true }, { MsgLeftUp, out, 0, false } };
+    const std::tuple<ObjectMessage, uint32_t, int32_t, bool> steps[]
+        = { { MsgMouseMove, in, 1, true }, { MsgLeftUp, in, 1, false }, { MsgMouseMove, out, 0, false },
+              { MsgLeftDown, in, 2, true }, { MsgMouseMove, out, 2, false }, { MsgMouseMove, in, 2, true },
+              { MsgRightDown, in, 2, false }, { MsgLeftUp, in, 1, true }, { MsgLeftDown, out, 0, false },
+              { MsgLeftDown, in, 2, true }, { MsgLeftUp, out, 0, false } };
     for (const auto& [msg, where, look, answer] : steps) {
         EXPECT_EQ(button.HandleMessage(msg, 0, where), answer);
         EXPECT_EQ(button.GetSection(), look);
         Draw(button);
-        EXPECT_EQ(Drawn()[SectionColor(std::min(look, 1))], 100);
+        EXPECT_EQ(Count(SectionColor(std::min(look, 1))), 100);
     }
 }
-
-} // namespace

@@ -1,104 +1,187 @@
 #include "objects/AnimationObject.h"
+#include "objects/CanvasDrawing.h"
 #include "objects/ScreenDocument.h"
-#include "platform/headless/HeadlessDesktop.h"
-#include "tests/objects/FakePicture.h"
+#include "tests/objects/ObjectTest.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
+#include <tuple>
 
 namespace {
 
-const ScreenObject* Add(ScreenDocument& document, vec pos, vec size, FakePicture::Log* log = nullptr)
+using Place = std::tuple<vec, vec, vec>; // pos, src, view
+using Places = std::vector<Place>;
+
+Place PlaceOf(const ScreenObject& object)
 {
-    document.AddPicture(std::make_unique<FakePicture>(pos, size, log));
-    return document.GetObjects().back().get();
+    return { object.GetPos(), object.GetSrc(), object.GetView() };
 }
 
-TEST(ScreenDocument, KeepsLayersInOrderThroughAnyEditing)
-{
-    std::mt19937 random(1);
+// Has no picture, is hit in its whole rectangle, and notes where it was drawn.
+class Fake : public PictureObject {
+public:
+    Fake(vec place, vec extent, Places& noted)
+        : drawings(noted)
+    {
+        pos = place;
+        size = view = extent;
+    }
+    bool Draw(uint16_t*, int32_t) override { return drawings.push_back(PlaceOf(*this)), true; }
+    bool HitTest(vec point, vec) override { return CoversPoint(pos, view, point); }
+
+private:
+    Places& drawings;
+};
+
+class ScreenDocumentTest : public ObjectTest {
+protected:
+    ScreenObject& Add(vec pos, EffectKind effect = EffectNone, vec size = { 50, 40 })
+    {
+        document.AddPicture(std::make_unique<Fake>(pos, size, drawings));
+        document.GetObjects().back()->SetEffect(effect);
+        return *document.GetObjects().back();
+    }
+    // One frame after a pause; what it drew.
+    Places Frame(uint32_t milliseconds = 0)
+    {
+        drawings.clear();
+        desktop.Advance(milliseconds);
+        document.Render();
+        return drawings;
+    }
+
+    Places drawings;
     ScreenDocument document;
-    std::vector<const ScreenObject*> list, stack; // by index and by layer
-    for (int32_t step = 0; step < 2000; ++step) {
-        const auto index = static_cast<int32_t>(random() % 8);
-        const bool known = index < static_cast<int32_t>(list.size());
-        const auto place = known ? std::find(stack.begin(), stack.end(), list.begin()[index]) : stack.end();
-        const bool down = random() % 2 == 0;
-        const auto action = random() % 100;
-        if (action == 0) {
-            document.Clear();
-            list.clear();
-            stack.clear();
-        } else if (action < 35) {
-            list.push_back(Add(document, { 0, 0 }, { 10, 10 }));
-            stack.push_back(list.back());
-        } else if (action < 70) {
-            const bool moves = known && place != (down ? stack.begin() : stack.end() - 1);
-            ASSERT_EQ(document.MoveLayer(index, down), moves);
-            if (moves)
-                std::iter_swap(place, down ? place - 1 : place + 1);
-        } else {
-            ASSERT_EQ(document.RemoveObject(index), known);
-            if (known) {
-                stack.erase(place);
-                list.erase(list.begin() + index);
-            }
-        }
-        ASSERT_EQ(document.GetLayerCount(), document.GetObjectCount());
-        ASSERT_TRUE(std::equal(list.begin(), list.end(), document.GetObjects().begin(), document.GetObjects().end(),
-            [](const ScreenObject* wanted, const auto& object) { return wanted == object.get(); }));
-        for (size_t layer = 0; layer < stack.size(); ++layer)
-            ASSERT_EQ(stack[layer]->GetLayer(), static_cast<int32_t>(layer));
+};
+
+TEST_F(ScreenDocumentTest, MovesObjectsThroughTheLayersAndClosesTheGapOfARemovedOne)
+{
+    for (int32_t i = 0; i < 4; ++i)
+        Add({ i, 0 });
+    EXPECT_TRUE(document.MoveLayer(0, false) && document.MoveLayer(3, true)); // layers 1, 0, 3, 2
+    EXPECT_FALSE(document.MoveLayer(1, true) || document.MoveLayer(2, false) || document.MoveLayer(4, true));
+    EXPECT_FALSE(document.RemoveObject(4) || document.RemoveObject(-1) || !document.RemoveObject(0));
+    EXPECT_EQ(document.GetLayerCount(), 3);
+    for (const auto& [layer, was] : { std::pair(0, 1), { 1, 3 }, { 2, 2 } }) {
+        int32_t index = -1;
+        EXPECT_TRUE(document.IndexOfLayer(layer, index) && index == was - 1);
+        EXPECT_EQ(document.GetObjects().at(static_cast<size_t>(index))->GetPos(), vec(was, 0));
     }
 }
 
-TEST(ScreenDocument, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCentreStrictlyInside)
+TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCentreStrictlyInside)
 {
-    ScreenDocument document;
-    Add(document, { 0, 0 }, { 50, 50 });
-    Add(document, { 40, 40 }, { 50, 50 });
+    Add({ 0, 0 });
+    Add({ 40, 30 });
     int32_t index = 7;
-    EXPECT_TRUE(document.FindObjectAt({ 50, 50 }, index) && index == 1);
-    EXPECT_TRUE(document.FindObjectAt({ 39, 50 }, index) && index == 0);
-    EXPECT_FALSE(document.FindObjectAt({ 91, 50 }, index));
-    EXPECT_EQ(index, -1);
-
-    EXPECT_TRUE(document.IsObjectInRect(1, { 64, 64 }, { 91, 91 }));
-    EXPECT_FALSE(document.IsObjectInRect(1, { 65, 65 }, { 91, 91 })); // the centre is on the edge
-    EXPECT_FALSE(document.IsObjectInRect(1, { 41, 41 }, { 89, 89 })); // no corner
+    EXPECT_TRUE(document.FindObjectAt({ 50, 40 }, index) && index == 1);
+    EXPECT_TRUE(document.FindObjectAt({ 39, 40 }, index) && index == 0);
+    EXPECT_FALSE(document.FindObjectAt({ 91, 40 }, index) || index != -1);
+    EXPECT_TRUE(document.IsObjectInRect(1, { 64, 49 }, { 91, 71 }));
+    EXPECT_FALSE(document.IsObjectInRect(1, { 64, 50 }, { 91, 71 })); // the centre is on the edge
+    EXPECT_FALSE(document.IsObjectInRect(1, { 41, 31 }, { 89, 69 })); // no corner
 }
 
-TEST(ScreenDocument, RendersBackgroundsFirstThenEveryLayerFittedByItsRule)
+TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackgroundFromLayerToLayer)
 {
-    platform::HeadlessDesktop desktop;
-    FakePicture::Log log;
-    ScreenDocument document;
-    Add(document, { -5, 1 }, { 50, 50 }, &log);
-    Add(document, { -5, 2 }, { 50, 50 }, &log);
-    document.GetObjects()[1]->SetBoundaryCheck(true);
+    Add({ -5, 1 });
+    Add({ -5, 2 }).SetBoundaryCheck(true);
     document.MoveLayer(0, false);
+    WriteStrip("strip.bmp", { 400, 50 }, 8);
     document.AddAnimation(std::make_unique<AnimationObject>());
-    ScreenObject& animation = *document.GetObjects().back();
-    animation.SetBoundaryCheck(true);
-    animation.SetPos({ -5, 3 });
-    document.AddBackground(std::make_unique<FakePicture>(vec(0, 0), vec(900, 700), &log));
+    auto& animation = dynamic_cast<AnimationObject&>(*document.GetObjects()[2]);
+    ASSERT_TRUE(Load(animation, "strip.bmp"));
+    animation.SetPos({ 790, -20 });
+    animation.SetBoundaryCheck(true); // of no effect on an animation
+    animation.SetInterval(0);
+    animation.Play();
+    document.AddBackground(std::make_unique<Fake>(vec(0, 0), vec(900, 700), drawings));
 
-    document.Render();
-    ASSERT_EQ(log.size(), 3U);
-    EXPECT_EQ(log[0].GetView(), vec(800, 600));
-    EXPECT_TRUE(log[1].GetPos() == vec(0, 2) && log[1].GetView() == vec(50, 50));
-    EXPECT_TRUE(log[2].GetPos() == vec(0, 1) && log[2].GetSrc() == vec(5, 0) && log[2].GetView() == vec(45, 50));
-    EXPECT_EQ(animation.GetSrc(), vec(5, 0)); // cropped whatever its boundaryCheck says
+    const Place background { { 0, 0 }, { 0, 0 }, { 800, 600 } };
+    const Places fitted { { { 0, 1 }, { 5, 0 }, { 45, 40 } }, { { 0, 2 }, { 0, 0 }, { 50, 40 } },
+        { { 750, 0 }, { 0, 20 }, { 50, 30 } } };
+    const auto& objects = document.GetObjects();
+    const auto places = [&] { return Places { PlaceOf(*objects[0]), PlaceOf(*objects[1]), PlaceOf(*objects[2]) }; };
+    document.FitAll();
+    EXPECT_EQ(places(), fitted);
+    EXPECT_TRUE(drawings.empty() && animation.GetFrame() == 0); // nothing but fitted
+    EXPECT_EQ(Frame(), (Places { background, fitted[1], fitted[0] }));
+    EXPECT_EQ(places(), fitted);
 
-    animation.SetLayer(9); // leaves layer 2 without object: drawing goes on, the search from the top ends there
-    document.Render();
-    EXPECT_EQ(log.size(), 6U);
-    ASSERT_EQ(desktop.DebugMessages().size(), 1U);
-    EXPECT_EQ(desktop.DebugMessages()[0].bytes, " Layer 2 is no object\n");
-    ScreenObject* object = nullptr;
-    EXPECT_FALSE(document.GetObjectAt(object, { 10, 10 }));
+    objects[0]->SetLayer(9); // leaves layer 1 without object: drawing goes on, the search ends there
+    EXPECT_EQ(Frame(), (Places { background, fitted[1] }));
+    EXPECT_EQ(desktop.DebugMessages().at(0).bytes, " Layer 1 is no object\n");
+}
+
+TEST_F(ScreenDocumentTest, CutsAtTheEdgesOrPushesBackInside)
+{
+    const std::tuple<bool, vec, vec, vec, Place> cases[] = {
+        { false, { -30, 10 }, { 0, 0 }, { 40, 30 }, { { 0, 10 }, { 30, 0 }, { 10, 30 } } },
+        { false, { 0, 10 }, { 30, 0 }, { 40, 30 }, { { 0, 10 }, { 30, 0 }, { 10, 30 } } }, // cropped again
+        { false, { 0, -8 }, { 30, 0 }, { 40, 30 }, { { 0, 0 }, { 0, 8 }, { 40, 22 } } }, // both offsets are replaced
+        { false, { 900, 590 }, { 7, 7 }, { 40, 30 }, { { 800, 590 }, { 0, 0 }, { 0, 10 } } },
+        { false, { INT32_MIN, INT32_MAX }, { 0, 0 }, { 40, 30 }, { { 0, 600 }, { INT32_MAX, 0 }, { 0, 0 } } },
+        { true, { 790, 10 }, { 3, 4 }, { 40, 30 }, { { 760, 10 }, { 0, 0 }, { 40, 30 } } },
+        { true, { -9, 900 }, { 0, 0 }, { 40, 30 }, { { 0, 570 }, { 0, 0 }, { 40, 30 } } },
+        { true, { INT32_MAX, INT32_MIN }, { 0, 0 }, { 1000, 65535 }, { { 0, 0 }, { 0, 0 }, { 800, 600 } } },
+    };
+    for (const auto& [keepInside, pos, src, size, fitted] : cases) {
+        ScreenObject& object = Add(pos, EffectNone, size);
+        object.SetSrc(src);
+        document.ClipObject(object, keepInside);
+        EXPECT_EQ(PlaceOf(object), fitted) << keepInside << " at " << pos.x << ", " << pos.y;
+    }
+}
+
+TEST_F(ScreenDocumentTest, SlidesObjectsInFromEachSide)
+{
+    const std::tuple<EffectKind, vec, vec, vec, vec, int32_t> slides[] = {
+        { EffectFromTop, { 100, 200 }, { 3, 4 }, { 97, -44 }, { 0, 10 }, 24 },
+        { EffectFromBottom, { 0, 205 }, { 30, 0 }, { -30, 600 }, { 0, -10 }, 39 },
+        { EffectFromLeft, { 0, 0 }, { 30, 7 }, { -80, -7 }, { 10, 0 }, 5 },
+        { EffectFromRight, { 805, 9 }, { 0, 7 }, { 800, 9 }, { -10, 0 }, 0 },
+        { EffectFromLeft, { -2147483647, 1 }, { 9, 0 }, { -59, 1 }, { 10, 0 }, 214748359 },
+    };
+    for (const auto& [effect, pos, src, start, delta, steps] : slides) {
+        Add(pos, effect).SetSrc(src);
+        document.StartEffect(document.GetObjectCount() - 1);
+        const EffectRecord& record = document.GetEffects().back();
+        EXPECT_TRUE(record.start == start && record.delta == delta && record.end == pos - src) << effect;
+        EXPECT_EQ(record.steps, steps) << effect;
+    }
+}
+
+TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameAndEndsWhereTheObjectWas)
+{
+    desktop.SetClock(0xFFFFFFF0); // the counter wraps around on the way
+    const ScreenObject& object = Add({ 100, 203 }, EffectFromTop);
+    document.StartEffect(0);
+    document.StartEffect(0);
+    EXPECT_TRUE(Frame(19).empty());
+    EXPECT_EQ(Frame(1), (Places { { { 100, 0 }, { 0, 40 }, { 50, 0 } } }));
+    EXPECT_TRUE(Frame(5).empty());
+    for (int32_t step = 1; step <= 24; ++step) {
+        EXPECT_EQ(Frame(100).size(), 1U);
+        EXPECT_EQ((object.GetPos() - object.GetSrc()).y, step == 4 ? -10 : 10 * step - 40); // at 0 the cut stays
+    }
+    EXPECT_EQ(Frame(100), (Places { { { 100, 203 }, { 0, 0 }, { 50, 40 } } }));
+    EXPECT_FALSE(object.GetEffectRunning() || !document.GetEffects().empty());
+}
+
+TEST_F(ScreenDocumentTest, HidesForGoodWhatFadesOutAndKeepsRecordsWithTheirObjects)
+{
+    Add({ 1, 2 });
+    Add({ 1, 2 }, EffectFromTop).SetEffectRunning(true); // without a record: repaired
+    Add({ 1, 2 }, EffectFromLeft);
+    Add({ 1, 2 }, EffectFadeOut);
+    for (int32_t index = -1; index <= 4; ++index)
+        document.StartEffect(index);
+    for (const size_t drawn : { 2U, 3U, 3U })
+        EXPECT_EQ(Frame(100).size(), drawn);
+    document.RemoveObject(2);
+    EXPECT_TRUE(document.GetEffects().size() == 1 && document.GetEffects()[0].index == 2);
+    EXPECT_EQ(Frame(100).size(), 2U);
+    document.Clear();
+    EXPECT_TRUE(document.GetEffects().empty());
+    EXPECT_EQ(Add({ 1, 2 }).GetLayer(), 0);
 }
 
 } // namespace
