@@ -114,25 +114,28 @@ bool ScriptTokenizer::Tokenize(const std::string& path)
 
 bool ScriptTokenizer::TokenizeText(std::string script)
 {
-    tokens.clear();
-    cursor = 0;
     text = std::move(script);
     JoinLineEnds(text);
-    for (size_t position = 0; position < text.size();) {
-        if (!ReadElement(position))
-            return false;
-    }
-    return true;
+    position = 0;
+    bool wellFormed = true;
+    while (wellFormed && position < text.size())
+        wellFormed = ReadElement();
+    if (!wellFormed)
+        text.clear();
+    position = 0;
+    Next();
+    return wellFormed;
 }
 
 void ScriptTokenizer::Next()
 {
-    if (cursor < tokens.size())
-        ++cursor;
+    current = {};
+    while (current.text.empty() && position < text.size())
+        static_cast<void>(ReadElement());
 }
 
-// Reads the blank, comment or token that begins at `position` and steps past it.
-bool ScriptTokenizer::ReadElement(size_t& position)
+// Steps past the blank, comment or token that begins at `position`; a token becomes the current one.
+bool ScriptTokenizer::ReadElement()
 {
     const size_t start = position;
     if (IsOneOf(text[start], blanks)) {
@@ -140,14 +143,20 @@ bool ScriptTokenizer::ReadElement(size_t& position)
         return true;
     }
     if (text[start] == '/')
-        return SkipComment(position);
+        return SkipComment();
     position = EndOfElement(start);
     if (position == std::string::npos)
         return false;
-    return Append(std::string_view(text).substr(start, position - start));
+    current.text = std::string_view(text).substr(start, position - start);
+    Classify(current);
+    if (current.type != TokenType::Unknown)
+        return true;
+    OutputDebugStringA(std::string(current.text).c_str());
+    OutputDebugStringA("\n");
+    return false;
 }
 
-bool ScriptTokenizer::SkipComment(size_t& position) const
+bool ScriptTokenizer::SkipComment()
 {
     if (text.compare(position, 2, "//") != 0)
         return false;
@@ -169,19 +178,6 @@ size_t ScriptTokenizer::EndOfElement(size_t start) const
     const size_t end = IsOneOf(text[start], digits) ? text.find_first_not_of(numberCharacters, start)
                                                     : text.find_first_of(wordEnds, start);
     return std::min(end, text.size());
-}
-
-bool ScriptTokenizer::Append(std::string_view element)
-{
-    Token token { element };
-    Classify(token);
-    if (token.type == TokenType::Unknown) {
-        OutputDebugStringA(std::string(element).c_str());
-        OutputDebugStringA("\n");
-        return false;
-    }
-    tokens.push_back(token);
-    return true;
 }
 
 void ScriptTokenizer::Classify(Token& token)

@@ -3,11 +3,11 @@
 #include "script/Token.h"
 
 #include <cstddef>
-#include <deque>
 #include <string>
 
-// A screen script cut into classified tokens, with a cursor on one of them. Tokens stay valid as long as the tokenizer
-// holds this script.
+// The classified tokens of a screen script, with a cursor on one of them. The whole script is checked first; a token is
+// then cut again when the cursor comes to it, so that a script takes little more memory than its bytes. The text of a
+// token stays valid as long as the tokenizer holds this script.
 class ScriptTokenizer {
 public:
     ScriptTokenizer() = default;
@@ -21,20 +21,18 @@ public:
     [[nodiscard]] bool TokenizeText(std::string script);
 
     // Behind the last token: an empty one of type Unknown.
-    const Token& Current() const { return cursor < tokens.size() ? tokens[cursor] : endMarker; }
+    const Token& Current() const { return current; }
     void Next();
 
     // Sets the type from the text.
     static void Classify(Token& token);
 
 private:
-    bool ReadElement(size_t& position);
-    bool SkipComment(size_t& position) const;
+    bool ReadElement();
+    bool SkipComment();
     size_t EndOfElement(size_t start) const;
-    bool Append(std::string_view element);
 
     std::string text;
-    std::deque<Token> tokens; // no copying and no spare half while millions are added
-    size_t cursor = 0;
-    static constexpr Token endMarker {};
+    size_t position = 0; // of the next element
+    Token current;
 };

@@ -22,15 +22,4 @@ TEST(ScriptTokenizer, ReadsFilesOfAnyLengthButNoFolders)
     EXPECT_FALSE(tokens.Tokenize("missing.tobrik"));
 }
 
-TEST(ScriptTokenizer, KeepsTokensAsTheyStand)
-{
-    ScriptTokenizer tokens;
-    ASSERT_TRUE(tokens.TokenizeText("Filename=\"a\r\nb//\"\"\";007 1.2.3 - 5//5 \"\n{vec(1"));
-    std::string list;
-    for (; tokens.Current().type != TokenType::Unknown; tokens.Next())
-        list
-            += std::to_string(static_cast<int>(tokens.Current().type)) + ":" + std::string(tokens.Current().text) + " ";
-    EXPECT_EQ(list, "17:Filename 6:= 0:\"a\nb//\" 0:\"\" 1:; 10:007 9:1.2.3 8:- 10:5 4:{ 11:vec 2:( 10:1 ");
-}
-
 } // namespace
