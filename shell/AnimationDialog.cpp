@@ -1,27 +1,23 @@
 #include "shell/AnimationDialog.h"
 
 #include "objects/AnimationObject.h"
-#include "platform/User.h"
 #include "resources/ResourceIds.h"
 #include "shell/DialogFields.h"
 #include "shell/DialogRouting.h"
-
-#include <cstdio>
+#include "shell/EditedObject.h"
 
 namespace {
 
-AnimationObject* animation = nullptr; // while the dialog is open
+EditedObject<AnimationObject> edited;
 
 constexpr int fewestSections = 1;
 constexpr int mostSections = 40;
 
 void OnInit(HWND dialog)
 {
-    animation = FindEditedObject<AnimationObject>();
-    if (!animation) {
-        EndDialog(dialog, 1);
+    const AnimationObject* animation = edited.Open(dialog);
+    if (!animation)
         return;
-    }
     AddSectionItems(dialog, AnimationSectionList, fewestSections, mostSections);
     SelectItem(dialog, AnimationSectionList, animation->GetSections() - fewestSections);
     SetFieldNumber(dialog, AnimationWidthField, animation->GetView().x);
@@ -30,18 +26,19 @@ void OnInit(HWND dialog)
 }
 
 // Without a selected entry (-1) the count asked for is 0, which the animation raises to 1.
-void Confirm(HWND dialog)
+void Confirm(HWND dialog, AnimationObject& animation)
 {
-    animation->SetSections(SelectedItem(dialog, AnimationSectionList) + fewestSections);
-    animation->SetInterval(static_cast<float>(DecimalValue(GetFieldText(dialog, AnimationIntervalField))));
-    animation = nullptr;
-    EndDialog(dialog, 1);
+    animation.SetSections(SelectedItem(dialog, AnimationSectionList) + fewestSections);
+    animation.SetInterval(static_cast<float>(DecimalValue(GetFieldText(dialog, AnimationIntervalField))));
 }
 
 void OnCommand(HWND dialog, int id)
 {
-    if (id == ConfirmButton && animation)
-        Confirm(dialog);
+    if (id != ConfirmButton)
+        return;
+    if (AnimationObject* animation = edited.Get())
+        Confirm(dialog, *animation);
+    edited.Close(dialog);
 }
 
 } // namespace

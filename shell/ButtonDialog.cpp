@@ -1,25 +1,23 @@
 #include "shell/ButtonDialog.h"
 
 #include "objects/ButtonObject.h"
-#include "platform/User.h"
 #include "resources/ResourceIds.h"
 #include "shell/DialogFields.h"
 #include "shell/DialogRouting.h"
+#include "shell/EditedObject.h"
 
 namespace {
 
-ButtonObject* button = nullptr; // while the dialog is open
+EditedObject<ButtonObject> edited;
 
 constexpr int fewestSections = 3;
 constexpr int mostSections = 16;
 
 void OnInit(HWND dialog)
 {
-    button = FindEditedObject<ButtonObject>();
-    if (!button) {
-        EndDialog(dialog, 1);
+    const ButtonObject* button = edited.Open(dialog);
+    if (!button)
         return;
-    }
     AddSectionItems(dialog, ButtonSectionList, fewestSections, mostSections);
     SelectItem(dialog, ButtonSectionList, button->GetSections() - fewestSections);
     SetFieldNumber(dialog, ButtonWidthField, button->GetView().x);
@@ -28,18 +26,19 @@ void OnInit(HWND dialog)
 }
 
 // Without a selected entry (-1) the button takes one section less than the list offers.
-void Confirm(HWND dialog)
+void Confirm(HWND dialog, ButtonObject& button)
 {
-    button->SetSections(SelectedItem(dialog, ButtonSectionList) + fewestSections);
-    button->SetBoundaryCheck(IsTicked(dialog, ButtonBoundaryCheck));
-    button = nullptr;
-    EndDialog(dialog, 1);
+    button.SetSections(SelectedItem(dialog, ButtonSectionList) + fewestSections);
+    button.SetBoundaryCheck(IsTicked(dialog, ButtonBoundaryCheck));
 }
 
 void OnCommand(HWND dialog, int id)
 {
-    if (id == ConfirmButton && button)
-        Confirm(dialog);
+    if (id != ConfirmButton)
+        return;
+    if (ButtonObject* button = edited.Get())
+        Confirm(dialog, *button);
+    edited.Close(dialog);
 }
 
 } // namespace

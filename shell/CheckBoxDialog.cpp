@@ -1,46 +1,42 @@
 #include "shell/CheckBoxDialog.h"
 
 #include "objects/CheckBoxObject.h"
-#include "platform/User.h"
 #include "resources/ResourceIds.h"
 #include "shell/DialogFields.h"
 #include "shell/DialogRouting.h"
+#include "shell/EditedObject.h"
 
 namespace {
 
-CheckBoxObject* checkBox = nullptr; // while the dialog is open
+EditedObject<CheckBoxObject> edited;
 
 void OnInit(HWND dialog)
 {
-    checkBox = FindEditedObject<CheckBoxObject>();
-    if (checkBox)
+    if (const CheckBoxObject* checkBox = edited.Open(dialog))
         SetFieldText(dialog, CheckBoxTextField, checkBox->GetLabelText());
-    else
-        EndDialog(dialog, 1);
 }
 
 void Confirm(HWND dialog)
 {
     const std::string text = GetFieldText(dialog, CheckBoxTextField);
-    if (!text.empty()) {
+    CheckBoxObject* checkBox = edited.Get();
+    if (checkBox && !text.empty()) {
         checkBox->SetLabelText(text);
         static_cast<void>(checkBox->Build());
     }
-    AskToClose(dialog);
 }
 
 void OnCommand(HWND dialog, int id)
 {
-    if (id == ConfirmButton && checkBox)
+    if (id == ConfirmButton)
         Confirm(dialog);
-    else if (id == CheckBoxCancelButton)
+    if (id == ConfirmButton || id == CheckBoxCancelButton)
         AskToClose(dialog);
 }
 
 void OnClose(HWND dialog)
 {
-    checkBox = nullptr;
-    EndDialog(dialog, 1);
+    edited.Close(dialog);
 }
 
 } // namespace

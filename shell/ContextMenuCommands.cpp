@@ -2,16 +2,15 @@
 
 #include "objects/AnimationObject.h"
 #include "objects/CheckBoxObject.h"
-#include "objects/ScreenDocument.h"
 #include "platform/Big5Literal.h"
 #include "platform/User.h"
 #include "resources/ResourceIds.h"
 #include "shell/AnimationDialog.h"
 #include "shell/ButtonDialog.h"
 #include "shell/CheckBoxDialog.h"
+#include "shell/ObjectLookup.h"
 #include "shell/PictureDialog.h"
 #include "shell/SelectboxDialog.h"
-#include "shell/ShellContext.h"
 
 namespace {
 
@@ -34,13 +33,6 @@ HMENU MenuFor(ObjectKind kind)
     return menus.general;
 }
 
-ScreenObject* ObjectAtContextPoint()
-{
-    ScreenObject* object = nullptr;
-    Shell().document.GetObjectAt(object, Shell().editing.GetContextPoint());
-    return object;
-}
-
 INT_PTR RunDialog(const char* name, DLGPROC procedure)
 {
     return DialogBoxParamA(Shell().instance, name, Shell().mainWindow, procedure, 0);
@@ -57,7 +49,7 @@ void EditProperties(const char* dialogName, DLGPROC procedure)
 
 void EditObjectProperties()
 {
-    const ScreenObject* object = ObjectAtContextPoint();
+    const ScreenObject* object = FindContextObject();
     if (!object)
         return;
     if (object->GetKind() == KindPicture)
@@ -68,20 +60,20 @@ void EditObjectProperties()
 
 void EditAnimationProperties()
 {
-    const ScreenObject* object = ObjectAtContextPoint();
+    const ScreenObject* object = FindContextObject();
     if (object && object->GetKind() == KindAnimation)
         EditProperties("ANIMATIONDIALOG", AnimationDialogProc);
 }
 
 void EditCheckBoxProperties()
 {
-    if (ObjectAtContextPoint())
+    if (FindContextObject())
         EditProperties("CheckboxProp", CheckBoxDialogProc);
 }
 
 void EditSelectboxChoices()
 {
-    if (ObjectAtContextPoint())
+    if (FindContextObject())
         static_cast<void>(RunDialog("SelectboxAddString", SelectboxDialogProc));
 }
 
@@ -90,8 +82,8 @@ void MoveToEnd(bool down)
 {
     ScreenDocument& document = Shell().document;
     int32_t index = -1;
-    ScreenObject* object = nullptr;
-    if (!document.FindObjectAt(Shell().editing.GetPointer(), index) || !document.GetObject(index, object))
+    const ScreenObject* object = FindObject(Shell().editing.GetPointer(), index);
+    if (!object)
         return;
     const int32_t steps = down ? object->GetLayer() : document.GetLayerCount() - object->GetLayer();
     for (int32_t i = 0; i < steps; ++i)
@@ -100,7 +92,7 @@ void MoveToEnd(bool down)
 
 AnimationObject* AnimationAtContextPoint()
 {
-    return dynamic_cast<AnimationObject*>(ObjectAtContextPoint());
+    return dynamic_cast<AnimationObject*>(FindContextObject());
 }
 
 void PlayAnimation()
@@ -123,7 +115,7 @@ void RestartAnimation()
 
 void ToggleCheckBoxEnabled()
 {
-    if (auto* checkBox = dynamic_cast<CheckBoxObject*>(ObjectAtContextPoint()))
+    if (auto* checkBox = dynamic_cast<CheckBoxObject*>(FindContextObject()))
         checkBox->SetEnabled(!checkBox->IsEnabled());
 }
 

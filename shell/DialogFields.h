@@ -1,8 +1,6 @@
 #pragma once
 
-#include "objects/ScreenDocument.h"
 #include "platform/Types.h"
-#include "shell/ShellContext.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -30,11 +28,3 @@ bool IsTicked(HWND dialog, int id);
 
 // The choices of how many sections a strip is cut into, from `first` to `last`.
 void AddSectionItems(HWND dialog, int id, int first, int last);
-
-// The object of the kind at the context point, or null. The document keeps owning it.
-template <class Kind> Kind* FindEditedObject()
-{
-    ScreenObject* object = nullptr;
-    Shell().document.GetObjectAt(object, Shell().editing.GetContextPoint());
-    return dynamic_cast<Kind*>(object);
-}

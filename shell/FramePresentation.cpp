@@ -1,8 +1,7 @@
 #include "shell/FramePresentation.h"
 
-#include "objects/ScreenObject.h"
 #include "platform/Gdi.h"
-#include "shell/ShellContext.h"
+#include "shell/ObjectLookup.h"
 
 namespace {
 
@@ -22,17 +21,13 @@ void CopyFrame(HDC context, const uint16_t* frame)
 
 void OutlineSelection(HDC context, HBRUSH brush)
 {
-    const EditorState& editing = Shell().editing;
-    for (size_t i = 0; i < editing.GetSelectionCount(); ++i) {
-        ScreenObject* object = nullptr;
-        if (!Shell().document.GetObject(editing.GetSelectedIndex(i), object))
-            continue;
-        const vec topLeft = object->GetPos();
-        const vec bottomRight = topLeft + object->GetView();
+    ForEachSelected([&](size_t, const ScreenObject& object) {
+        const vec topLeft = object.GetPos();
+        const vec bottomRight = topLeft + object.GetView();
         RECT outline;
         SetRect(&outline, topLeft.x, topLeft.y, bottomRight.x, bottomRight.y);
         FrameRect(context, &outline, brush);
-    }
+    });
 }
 
 } // namespace

@@ -1,29 +1,22 @@
 #include "shell/KeyEditing.h"
 
 #include "objects/AnimationObject.h"
-#include "objects/ScreenDocument.h"
 #include "platform/User.h"
-#include "shell/ShellContext.h"
+#include "shell/ObjectLookup.h"
 
 namespace {
 
 // Grab positions stay: the next press or release refreshes them.
 void NudgeSelection(vec step)
 {
-    const EditorState& editing = Shell().editing;
-    for (size_t i = 0; i < editing.GetSelectionCount(); ++i) {
-        ScreenObject* object = nullptr;
-        if (Shell().document.GetObject(editing.GetSelectedIndex(i), object))
-            object->SetPos(object->GetPos() + step);
-    }
+    ForEachSelected([&](size_t, ScreenObject& object) { object.SetPos(object.GetPos() + step); });
 }
 
 void MoveLayerUnderPointer(bool down)
 {
-    ScreenDocument& document = Shell().document;
     int32_t index = -1;
-    if (document.FindObjectAt(Shell().editing.GetPointer(), index))
-        document.MoveLayer(index, down);
+    if (FindObject(Shell().editing.GetPointer(), index))
+        Shell().document.MoveLayer(index, down);
 }
 
 void DeleteUnderPointer()
@@ -32,8 +25,8 @@ void DeleteUnderPointer()
     EditorState& editing = Shell().editing;
     editing.ClearSelection();
     int32_t index = -1;
-    ScreenObject* object = nullptr;
-    if (!document.FindObjectAt(editing.GetPointer(), index) || !document.GetObject(index, object))
+    const ScreenObject* object = FindObject(editing.GetPointer(), index);
+    if (!object)
         return;
     if (editing.GetCurrentObject() == object)
         editing.SetCurrentObject(nullptr);
@@ -44,10 +37,9 @@ void DeleteUnderPointer()
 // Plays or pauses an animation, starts any other object's appearance effect.
 void PreviewUnderPointer()
 {
-    ScreenDocument& document = Shell().document;
     int32_t index = -1;
-    ScreenObject* object = nullptr;
-    if (!document.FindObjectAt(Shell().editing.GetPointer(), index) || !document.GetObject(index, object))
+    ScreenObject* object = FindObject(Shell().editing.GetPointer(), index);
+    if (!object)
         return;
     if (auto* animation = dynamic_cast<AnimationObject*>(object)) {
         if (animation->IsPlaying())
@@ -55,7 +47,7 @@ void PreviewUnderPointer()
         else
             animation->Play();
     } else if (!object->GetEffectRunning()) {
-        document.StartEffect(index);
+        Shell().document.StartEffect(index);
     }
 }
 

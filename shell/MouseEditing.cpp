@@ -1,9 +1,8 @@
 #include "shell/MouseEditing.h"
 
-#include "objects/ScreenDocument.h"
 #include "platform/User.h"
 #include "shell/ContextMenuCommands.h"
-#include "shell/ShellContext.h"
+#include "shell/ObjectLookup.h"
 
 #include <utility>
 
@@ -21,24 +20,10 @@ MouseMessage MouseMessage::From(WPARAM wParam, LPARAM lParam)
 
 namespace {
 
-// The object under the point and its index, or null and -1.
-ScreenObject* FindObject(vec point, int32_t& index)
-{
-    ScreenObject* object = nullptr;
-    if (Shell().document.FindObjectAt(point, index))
-        Shell().document.GetObject(index, object);
-    return object;
-}
-
 // Every selected object is grabbed where it now lies.
 void GrabSelection()
 {
-    EditorState& editing = Shell().editing;
-    for (size_t i = 0; i < editing.GetSelectionCount(); ++i) {
-        ScreenObject* object = nullptr;
-        if (Shell().document.GetObject(editing.GetSelectedIndex(i), object))
-            editing.SetGrab(i, object->GetPos());
-    }
+    ForEachSelected([](size_t i, const ScreenObject& object) { Shell().editing.SetGrab(i, object.GetPos()); });
 }
 
 void StartDrag()
@@ -87,12 +72,7 @@ void StretchRubberBand()
 // Nothing is kept inside here: the next frame fits every object to the canvas.
 void DragSelection(vec delta)
 {
-    const EditorState& editing = Shell().editing;
-    for (size_t i = 0; i < editing.GetSelectionCount(); ++i) {
-        ScreenObject* object = nullptr;
-        if (Shell().document.GetObject(editing.GetSelectedIndex(i), object))
-            object->SetPos(editing.GetGrab(i) + delta);
-    }
+    ForEachSelected([&](size_t i, ScreenObject& object) { object.SetPos(Shell().editing.GetGrab(i) + delta); });
 }
 
 } // namespace

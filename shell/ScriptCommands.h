@@ -10,9 +10,9 @@ void RunScriptCommand(WORD id);
 void QuickSave();
 
 // Replaces the screen by what the file holds, kind by kind. A file that cannot be parsed ends the editor with exit
-// status 16 once what was parsed is loaded. False when parsing failed or an object could not be built; the objects
-// before it stay. `path` is a backslash path in code page 950, as for saving.
+// status 16 once what was parsed is loaded. False when an object could not be built: the objects before it stay, and
+// the file name is not taken over. `path` is a backslash path in code page 950, as for saving.
 bool LoadScreenScript(const std::string& path);
 // Writes the screen and takes the name over. When the screen cannot be stored or written it says so in a message and
-// answers false; nothing has changed then.
+// answers false; file, screen and name are then as they were.
 bool SaveScreenScript(const std::string& path);

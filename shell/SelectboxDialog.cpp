@@ -2,24 +2,22 @@
 
 #include "objects/SelectboxObject.h"
 #include "platform/Big5Literal.h"
-#include "platform/User.h"
 #include "resources/ResourceIds.h"
 #include "shell/DialogFields.h"
 #include "shell/DialogRouting.h"
+#include "shell/EditedObject.h"
 
 #include <cstdio>
 
 namespace {
 
-SelectboxObject* selectbox = nullptr; // while the dialog is open
+EditedObject<SelectboxObject> edited;
 
 void OnInit(HWND dialog)
 {
-    selectbox = FindEditedObject<SelectboxObject>();
-    if (!selectbox) {
-        EndDialog(dialog, 1);
+    const SelectboxObject* selectbox = edited.Open(dialog);
+    if (!selectbox)
         return;
-    }
     for (int32_t i = 0; i < selectbox->GetCount(); ++i) {
         AddItem(dialog, ChoiceList, selectbox->GetString(i));
         char item[64];
@@ -32,21 +30,21 @@ void OnInit(HWND dialog)
 }
 
 // The list of deletable entries gets no new entry.
-void Add(HWND dialog)
+void Add(HWND dialog, SelectboxObject& selectbox)
 {
     const std::string text = GetFieldText(dialog, NewChoiceField);
     SetFieldText(dialog, NewChoiceField, "");
     AddItem(dialog, ChoiceList, text);
     SelectItem(dialog, ChoiceList, 0);
     SelectItem(dialog, DeleteChoiceList, 0);
-    selectbox->AddString(text);
+    selectbox.AddString(text);
 }
 
 // Both lists are edited by position: the remaining entries keep their old numbers.
-void Delete(HWND dialog)
+void Delete(HWND dialog, SelectboxObject& selectbox)
 {
     const int index = SelectedItem(dialog, DeleteChoiceList);
-    selectbox->RemoveString(index);
+    selectbox.RemoveString(index);
     DeleteItem(dialog, DeleteChoiceList, index);
     DeleteItem(dialog, ChoiceList, index);
     SelectItem(dialog, DeleteChoiceList, 0);
@@ -55,18 +53,18 @@ void Delete(HWND dialog)
 
 void OnCommand(HWND dialog, int id)
 {
+    SelectboxObject* selectbox = edited.Get();
     if (id == ChoicesDoneButton)
         AskToClose(dialog);
     else if (id == ConfirmButton && selectbox)
-        Add(dialog);
+        Add(dialog, *selectbox);
     else if (id == DeleteChoiceButton && selectbox)
-        Delete(dialog);
+        Delete(dialog, *selectbox);
 }
 
 void OnClose(HWND dialog)
 {
-    selectbox = nullptr;
-    EndDialog(dialog, 1);
+    edited.Close(dialog);
 }
 
 } // namespace

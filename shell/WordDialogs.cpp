@@ -6,6 +6,7 @@
 #include "resources/ResourceIds.h"
 #include "shell/DialogFields.h"
 #include "shell/DialogRouting.h"
+#include "shell/ShellContext.h"
 
 #include <algorithm>
 #include <memory>

@@ -6,7 +6,6 @@
 #include "platform/Big5Literal.h"
 #include "platform/User.h"
 #include "resources/ResourceIds.h"
-#include "shell/FramePresentation.h"
 #include "tests/shell/EditorTest.h"
 
 namespace {
@@ -14,162 +13,96 @@ namespace {
 using platform::DialogDriver;
 using Texts = std::vector<std::string>;
 
-class Dialogs : public EditorTest {
-protected:
-    // Chooses the menu item for the object at (20, 10) and works its dialog.
-    void Edit(uint16_t item, std::function<void(DialogDriver&)> hands)
-    {
-        PresentFrame();
-        desktop.AnswerMenu(item);
-        desktop.OnDialog(std::move(hands));
-        desktop.RightPress(20, 10);
-        Play();
-    }
+class Dialogs : public AllKinds { };
 
-    template <class Kind> Kind& AddStrip(void (ScreenDocument::*add)(std::unique_ptr<Kind>))
-    {
-        WritePicture("strip.bmp", 320, 40);
-        auto strip = std::make_unique<Kind>();
-        strip->SetFileName("Image\\strip.bmp");
-        EXPECT_TRUE(strip->Load());
-        Kind& added = *strip;
-        (shell.document.*add)(std::move(strip));
-        return added;
-    }
-};
-
-TEST_F(Dialogs, PictureShowsAndTakesItsProperties)
+TEST_F(Dialogs, PictureTakesItsPropertiesButNoSenselessAlpha)
 {
-    PictureObject& picture = AddPicture({ 10, 5 }, { 40, 30 });
-    picture.SetMode(ModeMoving);
-    Edit(MenuObjectProperties, [](DialogDriver& dialog) {
-        EXPECT_EQ(dialog.Title(), "影像的資訊 and 設定");
-        EXPECT_EQ(dialog.Items(PictureModeList), (Texts { "移動物件", "靜態影像" }));
-        EXPECT_EQ(dialog.Selection(PictureModeList), 0);
-        EXPECT_EQ(dialog.Items(PictureEffectList),
-            (Texts { "沒有特效", "由上面出現", "由下面出現", "由左邊出現", "由右邊出現", "淡出" }));
-        EXPECT_EQ(dialog.Text(PictureWidthField) + "x" + dialog.Text(PictureHeightField), "40x30");
-        EXPECT_EQ(dialog.Text(PictureAlphaField), "255");
-        EXPECT_FALSE(dialog.IsChecked(PictureBoundaryCheck));
+    const auto& picture = ObjectAt<PictureObject>(Picture);
+    const std::pair<const char*, const char*> refused[] = {
+        { "", "輸入的 Alpha 值有誤: 輸入值 =  是不被接受的, 請輸入數字" },
+        { "12a", "輸入的 Alpha 值有誤: 輸入值 = 12a 是不被接受的, 請輸入數字" },
+        { "256", "Alpha 值的範圍不合理: 輸入值 = 256 並不在 0 ~ 255 之間" },
+        { "99999999999999999999", "Alpha 值的範圍不合理: 輸入值 = 2147483647 並不在 0 ~ 255 之間" },
+    };
+    Choose(On(Picture), MenuObjectProperties, [&](DialogDriver& dialog) {
+        EXPECT_EQ(dialog.Text(PictureModeList) + dialog.Text(PictureEffectList), "移動物件沒有特效");
         dialog.Select(PictureModeList, 1);
         dialog.Select(PictureEffectList, 3);
-        dialog.SetText(PictureAlphaField, "128");
         dialog.Check(PictureBoundaryCheck, true);
+        for (const auto& [typed, message] : refused) {
+            SetWindowTextA(GetDlgItem(dialog.Handle(), PictureAlphaField), typed); // as pasting may
+            dialog.Press(ConfirmButton);
+            EXPECT_EQ(LatestMessage(), message);
+            EXPECT_EQ(desktop.MessageBoxes().back().owner, dialog.Handle());
+            EXPECT_EQ(dialog.Text(PictureAlphaField), "255");
+        }
+        EXPECT_EQ(picture.GetMode(), ModeStatic); // mode and effect are taken all the same
+        EXPECT_EQ(picture.GetEffect(), EffectFromLeft);
+        EXPECT_FALSE(picture.GetBoundaryCheck());
+        const int drawn = desktop.TimesDrawn();
+        dialog.Move(300, 300); // the canvas below is drawn again
+        EXPECT_GT(desktop.TimesDrawn(), drawn);
         dialog.Key(VK_ESCAPE);
         dialog.Key(VK_RETURN);
-        EXPECT_TRUE(dialog.IsOpen());
+        dialog.SetText(PictureAlphaField, "128");
         dialog.Press(ConfirmButton);
     });
-    EXPECT_EQ(picture.GetMode(), ModeStatic);
-    EXPECT_EQ(picture.GetEffect(), EffectFromLeft);
     EXPECT_EQ(picture.GetAlpha(), 128U);
     EXPECT_TRUE(picture.GetBoundaryCheck());
 }
 
-TEST_F(Dialogs, PictureRefusesAnAlphaButKeepsModeAndEffect)
+TEST_F(Dialogs, StripsTakeTheirSections)
 {
-    PictureObject& picture = AddPicture({ 10, 5 }, { 40, 30 });
-    Edit(MenuObjectProperties, [&](DialogDriver& dialog) {
-        dialog.Select(PictureEffectList, 5);
-        for (const auto& [typed, caption, text] : {
-                 std::tuple { "", "輸入的 Alpha 值有誤", "輸入值 =  是不被接受的, 請輸入數字" },
-                 std::tuple { "12a", "輸入的 Alpha 值有誤", "輸入值 = 12a 是不被接受的, 請輸入數字" },
-                 std::tuple { "256", "Alpha 值的範圍不合理", "輸入值 = 256 並不在 0 ~ 255 之間" },
-                 std::tuple { "99999999999999999999", "Alpha 值的範圍不合理",
-                     "輸入值 = 2147483647 並不在 0 ~ 255 之間" },
-             }) {
-            SetWindowTextA(GetDlgItem(dialog.Handle(), PictureAlphaField), typed); // as pasting may
-            dialog.Press(ConfirmButton);
-            EXPECT_EQ(LatestMessage(), std::string(caption) + ": " + text);
-            EXPECT_EQ(desktop.MessageBoxes().back().owner, dialog.Handle());
-            EXPECT_EQ(dialog.Text(PictureAlphaField), "255");
-            EXPECT_TRUE(dialog.IsOpen());
-        }
-        dialog.Press(ConfirmButton);
-    });
-    EXPECT_EQ(picture.GetEffect(), EffectFadeOut);
-    EXPECT_EQ(picture.GetAlpha(), 255U);
-}
-
-TEST_F(Dialogs, ButtonTakesItsSections)
-{
-    ButtonObject& button = AddStrip(&ScreenDocument::AddButton);
-    Edit(MenuObjectProperties, [](DialogDriver& dialog) {
+    const auto& button = ObjectAt<ButtonObject>(Button);
+    Choose(On(Button), MenuObjectProperties, [](DialogDriver& dialog) {
         EXPECT_EQ(dialog.Items(ButtonSectionList).front(), "切成  3 段");
-        EXPECT_EQ(dialog.Items(ButtonSectionList).size(), 14U);
         EXPECT_EQ(dialog.Selection(ButtonSectionList), 1);
         dialog.Select(ButtonSectionList, 13);
         dialog.Check(ButtonBoundaryCheck, false);
         dialog.Press(ConfirmButton);
     });
-    EXPECT_EQ(button.GetSections(), 16);
     EXPECT_EQ(button.GetSize(), vec(20, 40));
     EXPECT_FALSE(button.GetBoundaryCheck());
-
-    Edit(MenuObjectProperties, [](DialogDriver& dialog) {
+    Choose(On(Button), MenuObjectProperties, [](DialogDriver& dialog) {
         dialog.SetText(ButtonSectionList, "5"); // typing leaves nothing selected
         dialog.Press(ConfirmButton);
     });
     EXPECT_EQ(button.GetSections(), 2);
-}
 
-TEST_F(Dialogs, AnimationTakesItsFramesAndTheirTime)
-{
-    AnimationObject& animation = AddStrip(&ScreenDocument::AddAnimation);
-    Edit(MenuAnimationProperties, [](DialogDriver& dialog) {
-        EXPECT_EQ(dialog.Items(AnimationSectionList).back(), "切成 40 段");
+    Choose(On(Animation), MenuAnimationProperties, [](DialogDriver& dialog) {
         EXPECT_EQ(dialog.Selection(AnimationSectionList), 7);
-        EXPECT_EQ(dialog.Text(AnimationWidthField), "40");
         EXPECT_EQ(dialog.Text(AnimationIntervalField), "50");
         dialog.SetText(AnimationSectionList, "?");
         dialog.SetText(AnimationIntervalField, "");
         dialog.Press(ConfirmButton);
     });
-    EXPECT_EQ(animation.GetSections(), 1);
-    EXPECT_EQ(animation.GetInterval(), 0.0F);
+    EXPECT_EQ(ObjectAt<AnimationObject>(Animation).GetSections(), 1);
+    EXPECT_EQ(ObjectAt<AnimationObject>(Animation).GetInterval(), 0.0F);
 }
 
 TEST_F(Dialogs, CheckBoxTakesALabelButNoEmptyOne)
 {
-    desktop.OnDialog([](DialogDriver& dialog) {
-        EXPECT_EQ(dialog.Text(WordBlueField), "255");
-        dialog.SetText(WordTextField, "音樂");
-        dialog.Press(ConfirmButton);
-    });
-    desktop.ClickButton(105);
-    Play();
-    ASSERT_EQ(shell.editing.GetObjectCount(), 1);
-    auto& checkBox = dynamic_cast<CheckBoxObject&>(ObjectAt(0));
-    EXPECT_EQ(checkBox.GetLabelText(), u8"音樂"_big5);
-    checkBox.SetPos({ 10, 5 });
-
-    for (const auto& [typed, button, kept] : { std::tuple { "音效", ConfirmButton, u8"音效"_big5 },
-             std::tuple { "", ConfirmButton, u8"音效"_big5 },
-             std::tuple { "別的", CheckBoxCancelButton, u8"音效"_big5 } }) {
-        Edit(MenuCheckBoxProperties, [typed = typed, button = button](DialogDriver& dialog) {
+    for (const auto& [typed, button] :
+        { std::pair { "音效", ConfirmButton }, { "", ConfirmButton }, { "別的", CheckBoxCancelButton } }) {
+        Choose(On(CheckBox), MenuCheckBoxProperties, [typed = typed, button = button](DialogDriver& dialog) {
             dialog.SetText(CheckBoxTextField, typed);
             dialog.Press(button);
         });
-        EXPECT_EQ(checkBox.GetLabelText(), kept);
+        EXPECT_EQ(ObjectAt<CheckBoxObject>(CheckBox).GetLabelText(), u8"音效"_big5);
     }
 }
 
 TEST_F(Dialogs, SelectBoxAddsAndDeletesChoicesByPlace)
 {
-    auto built = std::make_unique<SelectboxObject>();
-    built->Build();
-    built->AddString("a");
-    built->AddString("b");
-    SelectboxObject& selectbox = *built;
-    shell.document.AddSelectbox(std::move(built));
-    Edit(MenuSelectboxChoices, [](DialogDriver& dialog) {
-        EXPECT_EQ(dialog.Items(ChoiceList), (Texts { "a", "b" }));
+    auto& selectbox = ObjectAt<SelectboxObject>(Selectbox);
+    for (int left = 3; left > 0; --left)
+        selectbox.RemoveString(0);
+    Choose(On(Selectbox), MenuSelectboxChoices, [](DialogDriver& dialog) {
         dialog.SetText(NewChoiceField, "A");
         dialog.Press(ConfirmButton);
         EXPECT_EQ(dialog.Text(NewChoiceField), "");
-        EXPECT_EQ(dialog.Items(ChoiceList), (Texts { "a", "b", "A" }));
+        EXPECT_EQ(dialog.Items(ChoiceList), (Texts { "第四個選項", "第五個選項", "A" }));
         EXPECT_EQ(dialog.Items(DeleteChoiceList), (Texts { "刪除第 0 個選項", "刪除第 1 個選項" }));
-        dialog.Select(DeleteChoiceList, 0);
         dialog.Press(DeleteChoiceButton);
         EXPECT_EQ(dialog.Items(DeleteChoiceList), Texts { "刪除第 1 個選項" });
         dialog.Press(DeleteChoiceButton);
@@ -181,69 +114,40 @@ TEST_F(Dialogs, SelectBoxAddsAndDeletesChoicesByPlace)
     EXPECT_EQ(selectbox.GetString(0), "A");
 }
 
-TEST_F(Dialogs, WordTakesItsColourWithinBounds)
+TEST_F(Dialogs, WordTakesItsColourWithinBoundsAndWholeCharacters)
 {
-    desktop.OnDialog([](DialogDriver& dialog) {
-        dialog.SetText(WordTextField, "開始");
-        dialog.SetText(WordRedField, "300");
-        dialog.SetText(WordGreenField, "");
-        dialog.SetText(WordBlueField, "x7"); // letters are not taken
-        dialog.Press(ConfirmButton);
-    });
-    desktop.ClickButton(103);
-    Play();
-    ASSERT_EQ(shell.editing.GetObjectCount(), 1);
-    const auto& word = dynamic_cast<WordObject&>(ObjectAt(0));
-    EXPECT_EQ(word.GetText(), u8"開始"_big5);
-    EXPECT_EQ(word.GetTextColor(), SPic16X_::Color16_(0x0700FF));
-
+    std::string longText = "x";
+    for (int i = 0; i < 200; ++i)
+        longText += "字";
     for (const int button : { ConfirmButton, WordCancelButton }) {
-        desktop.OnDialog([button](DialogDriver& dialog) {
-            if (button == WordCancelButton)
-                dialog.SetText(WordTextField, "不要");
+        desktop.OnDialog([&, button](DialogDriver& dialog) {
+            EXPECT_EQ(dialog.Text(WordBlueField), "255");
+            dialog.SetText(WordTextField, longText);
+            dialog.SetText(WordRedField, "300");
+            dialog.SetText(WordGreenField, "");
+            dialog.SetText(WordBlueField, "x7"); // letters are not taken
             dialog.Press(button);
         });
         desktop.ClickButton(103);
     }
-    Play();
-    EXPECT_EQ(shell.editing.GetObjectCount(), 1);
+    Insert(103, "");
+    ASSERT_EQ(shell.editing.GetObjectCount(), 7);
+    EXPECT_EQ(ObjectAt<WordObject>(6).GetText().size(), 259U);
+    EXPECT_EQ(ObjectAt<WordObject>(6).GetTextColor(), SPic16X_::Color16_(0x0700FF));
 }
 
-TEST_F(Dialogs, LongTextIsCutBetweenCharacters)
+TEST_F(Dialogs, EditNothingOnceTheirObjectIsDeleted)
 {
-    std::string typed = "x";
-    for (int i = 0; i < 200; ++i)
-        typed += "字";
-    desktop.OnDialog([&](DialogDriver& dialog) {
-        dialog.SetText(WordTextField, typed);
-        dialog.Press(ConfirmButton);
-    });
-    desktop.ClickButton(103);
-    Play();
-    EXPECT_EQ(dynamic_cast<WordObject&>(ObjectAt(0)).GetText().size(), 259U);
-}
-
-TEST_F(Dialogs, EndAtOnceWhenTheirObjectIsGone)
-{
-    AddPicture({ 10, 5 }, { 40, 30 });
-    PresentFrame();
-    shell.editing.SetContextPoint({ 20, 10 }); // a picture, not the kind that these dialogs edit
-    for (const uint16_t item : { MenuCheckBoxProperties, MenuSelectboxChoices })
-        SendMessageA(shell.mainWindow, WM_COMMAND, item, 0);
-    Play();
-    EXPECT_TRUE(desktop.MessageBoxes().empty());
-    EXPECT_EQ(ObjectAt(0).GetSize(), vec(40, 30));
-}
-
-TEST_F(Dialogs, MovingOneDrawsTheCanvasAgain)
-{
-    AddPicture({ 10, 5 }, { 40, 30 });
-    Edit(MenuObjectProperties, [&](DialogDriver& dialog) {
-        const int drawn = desktop.TimesDrawn();
-        dialog.Move(300, 300);
-        EXPECT_GT(desktop.TimesDrawn(), drawn);
-        dialog.Press(ConfirmButton);
-    });
+    for (const auto& [object, item] : { std::pair { CheckBox, MenuCheckBoxProperties },
+             { Animation, MenuAnimationProperties }, { Picture, MenuObjectProperties } }) {
+        desktop.AnswerMenu(item);
+        desktop.OnDialog([](DialogDriver& dialog) { dialog.Press(ConfirmButton); });
+        desktop.RightPress(On(object).x, On(object).y);
+        desktop.Key(VK_DELETE); // struck before the dialog opens
+        Play();
+    }
+    EXPECT_EQ(shell.editing.GetObjectCount(), 3);
+    EXPECT_EQ(desktop.Dialogs().size(), 2U + 3U); // after those that made word and check box
 }
 
 } // namespace

@@ -17,22 +17,45 @@ EditorTest::EditorTest()
     WritePicture("EditBox.bmp", 120, 20);
     WritePicture("upbutton.bmp", 10, 32);
     WritePicture("downbutton.bmp", 10, 32);
-    for (const char* name : { "ro_chkbox.bmp", "EditBox.bmp", "upbutton.bmp", "downbutton.bmp" })
-        std::filesystem::copy_file(std::string("Image/") + name, name);
+    std::filesystem::copy("Image", "."); // the control pictures are found from either folder
 }
 
-void EditorTest::WritePicture(const std::string& name, int width, int height)
+std::string EditorTest::WritePicture(const std::string& name, int width, int height)
 {
     constexpr uint8_t grey = 150;
-    BmpFile(width, height, grey).Write(std::filesystem::exists("Image") ? "Image/" + name : name);
+    const std::string path = std::filesystem::absolute(std::filesystem::exists("Image") ? "Image/" + name : name);
+    BmpFile(width, height, grey).Write(path);
+    return path;
 }
 
-void EditorTest::SetUp() { ASSERT_TRUE(StartUp(&ProgramResources(), SW_SHOWNORMAL)); }
+void EditorTest::SetUp()
+{
+    ASSERT_TRUE(StartUp(&ProgramResources(), SW_SHOWNORMAL));
+}
 
 void EditorTest::Play()
 {
     desktop.PlayInput();
     PresentFrame();
+}
+
+void EditorTest::Choose(POINT at, uint32_t item, std::function<void(platform::DialogDriver&)> hands)
+{
+    desktop.AnswerMenu(item);
+    if (hands)
+        desktop.OnDialog(std::move(hands));
+    desktop.RightPress(at.x, at.y);
+    Play();
+}
+
+void EditorTest::Insert(int command, const std::string& text)
+{
+    desktop.OnDialog([text](platform::DialogDriver& dialog) {
+        dialog.SetText(WordTextField, text);
+        dialog.Press(ConfirmButton);
+    });
+    desktop.ClickButton(command);
+    Play();
 }
 
 int EditorTest::RunToTheEnd()
@@ -55,13 +78,6 @@ PictureObject& EditorTest::AddPicture(vec pos, vec size)
     return added;
 }
 
-ScreenObject& EditorTest::ObjectAt(int32_t index)
-{
-    ScreenObject* object = nullptr;
-    EXPECT_TRUE(shell.document.GetObject(index, object));
-    return *object;
-}
-
 std::vector<int32_t> EditorTest::Selected() const
 {
     std::vector<int32_t> indexes;
@@ -75,4 +91,21 @@ std::string EditorTest::LatestMessage() const
     if (desktop.MessageBoxes().empty())
         return {};
     return desktop.MessageBoxes().back().caption + ": " + desktop.MessageBoxes().back().text;
+}
+
+void AllKinds::SetUp()
+{
+    EditorTest::SetUp();
+    const std::string strip = WritePicture("strip.bmp", 320, 40);
+    for (const int command : { 100, 101, 102 }) {
+        desktop.AnswerFileDialog(strip);
+        desktop.ClickButton(command);
+    }
+    Insert(103, "開始遊戲");
+    Insert(105, "音樂");
+    desktop.ClickButton(106);
+    Play();
+    for (int32_t i = 0; i < shell.document.GetObjectCount(); ++i)
+        ObjectAt(i).SetPos({ 10, 10 + 80 * i });
+    PresentFrame();
 }

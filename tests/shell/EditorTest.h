@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,14 +22,22 @@ protected:
 
     // Input queued on the desktop takes effect, then the idle step shows it.
     void Play();
+    // Presses the right button, chooses the item and works the dialog that it opens.
+    void Choose(POINT at, uint32_t item, std::function<void(platform::DialogDriver&)> hands = {});
+    // Presses a command button and types the text into the dialog that it opens.
+    void Insert(int command, const std::string& text);
     // Runs the main loop to its end and answers the exit status.
     int RunToTheEnd();
 
     // A grey picture file in the folder "Image" (or in the current one once the designer has moved into it), and an
     // object that shows such a picture.
-    void WritePicture(const std::string& name, int width, int height);
+    std::string WritePicture(const std::string& name, int width, int height); // answers its path
     PictureObject& AddPicture(vec pos, vec size);
-    ScreenObject& ObjectAt(int32_t index);
+
+    template <class Kind = ScreenObject> Kind& ObjectAt(int32_t index) const
+    {
+        return dynamic_cast<Kind&>(*shell.document.GetObjects().at(static_cast<size_t>(index)));
+    }
     std::vector<int32_t> Selected() const;
     // The caption and text of the latest message box, "caption: text"; empty when there was none.
     std::string LatestMessage() const;
@@ -36,4 +45,13 @@ protected:
     TemporaryFolder folder;
     platform::HeadlessDesktop desktop;
     ShellContext shell;
+};
+
+// One object of each kind, made with the command buttons and put one below the other.
+class AllKinds : public EditorTest {
+protected:
+    enum { Picture, Button, Animation, Word, CheckBox, Selectbox };
+
+    void SetUp() override;
+    static POINT On(int32_t object) { return { 15, 15 + 80 * object }; }
 };
