@@ -24,3 +24,20 @@ check_tidy() {
     find gfx objects platform resources script shell -name '*.cpp' | sort \
         | xargs -P "$(nproc)" -n 4 clang-tidy -p build/clang --quiet 2>/dev/null
 }
+
+# Each fuzz target for a short while. What it learns is thrown away; an input that fails stays in build/fuzz.
+check_fuzz() (
+    configure_and_build fuzz -DTOBRIK_DESKTOP=OFF || exit
+    scratch=$(mktemp -d) || exit
+    trap 'rm -rf "$scratch"' EXIT
+    for target in script bmp render; do
+        mkdir "$scratch/$target"
+        TMPDIR=$scratch "build/fuzz/tests/fuzz/fuzz_$target" -max_total_time=20 -max_len=16384 -rss_limit_mb=512 \
+            -print_final_stats=1 -artifact_prefix=build/fuzz/ "$scratch/$target" "tests/fuzz/corpus/$target" \
+            >"$scratch/$target.log" 2>&1 || {
+            cat "$scratch/$target.log"
+            exit 1
+        }
+        sed -n "s/^stat::number_of_executed_units: */fuzz_$target, inputs tried: /p" "$scratch/$target.log"
+    done
+)

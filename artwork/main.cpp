@@ -43,19 +43,29 @@ bool SaveSamples(const QString& folder)
     return Save(folder, "wheel", artwork::PaintWheel(), Transparency::Companion) && saved;
 }
 
+// The icon in the sizes that a desktop's menus look for; artwork/icon.svg is the one for all other sizes.
+bool SaveIcons(const QString& folder)
+{
+    bool saved = true;
+    for (const int size : { 16, 32, 48, 256 })
+        saved = artwork::PaintIcon(size).save(QString("%1/%2.png").arg(folder).arg(size)) && saved;
+    return saved;
+}
+
 } // namespace
 
-// Takes two folders: where the pictures go, and where the icons' source goes.
+// Takes three folders: where the pictures go, where the icons' source goes, and where the icons' files go.
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: tobrik_artwork WORKSPACE RESOURCES\n");
+    if (argc != 4) {
+        std::fprintf(stderr, "usage: tobrik_artwork WORKSPACE RESOURCES ICONS\n");
         return 2;
     }
     const QString workspace = QString::fromLocal8Bit(argv[1]);
     const QString images = workspace + "/Image";
-    const bool saved = QDir().mkpath(images) && SaveSamples(images) && SaveControls(images) && SaveControls(workspace)
-        && artwork::WriteIconSource(QString::fromLocal8Bit(argv[2]));
+    const QString icons = QString::fromLocal8Bit(argv[3]);
+    const bool saved = QDir().mkpath(images) && QDir().mkpath(icons) && SaveSamples(images) && SaveControls(images)
+        && SaveControls(workspace) && artwork::WriteIconSource(QString::fromLocal8Bit(argv[2])) && SaveIcons(icons);
     return saved ? 0 : 1;
 }
