@@ -12,7 +12,7 @@ end_virtual_desktop() {
     # The display goes last, after its clients.
     local pid
     for pid in $editor_pid "${display_pids[@]}"; do
-        kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null
+        kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null || true
     done
     rm -rf "$scratch"
 }
@@ -105,7 +105,8 @@ wait_for_window_titled() { wait_until 10 other_window_titled "$1" && find_other_
 no_other_window() { ! find_other_window; }
 wait_for_main_window() { wait_until 10 no_other_window || fail "a window stayed open"; settle; }
 
-# choose_file PATH: types it into the open file dialog and confirms.
+# choose_file NAME: types it into the open file dialog and confirms. A name without a folder, or one that nothing in its
+# folder begins like: the dialog's completions would take the Return for themselves.
 choose_file() {
     wait_until 10 find_other_window || fail "the file dialog did not open"
     find_other_window

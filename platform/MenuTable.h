@@ -1,8 +1,0 @@
-#pragma once
-
-namespace platform {
-
-// Forgets every loaded menu.
-void ForgetMenus();
-
-} // namespace platform
