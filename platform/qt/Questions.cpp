@@ -6,6 +6,7 @@
 
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -91,6 +92,9 @@ std::optional<std::string> AskFile(QWidget* owner, const FileRequest& request)
     chooser->setAcceptMode(QFileDialog::AcceptOpen);
     chooser->setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     chooser->setWindowModality(Qt::ApplicationModal);
+    // What was typed is what is taken: a list of completions, which comes late on a slow disk, would take the Return.
+    for (QLineEdit* field : chooser->findChildren<QLineEdit*>())
+        field->setCompleter(nullptr);
     chooser->show();
     RunUntilClosed(chooser);
     if (!chooser.Exists() || chooser->result() != QDialog::Accepted || chooser->selectedFiles().isEmpty())

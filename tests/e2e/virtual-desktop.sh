@@ -105,8 +105,7 @@ wait_for_window_titled() { wait_until 10 other_window_titled "$1" && find_other_
 no_other_window() { ! find_other_window; }
 wait_for_main_window() { wait_until 10 no_other_window || fail "a window stayed open"; settle; }
 
-# choose_file NAME: types it into the open file dialog and confirms. A name without a folder, or one that nothing in its
-# folder begins like: the dialog's completions would take the Return for themselves.
+# choose_file PATH: types it into the open file dialog and confirms.
 choose_file() {
     wait_until 10 find_other_window || fail "the file dialog did not open"
     find_other_window
