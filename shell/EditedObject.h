@@ -3,8 +3,8 @@
 #include "platform/User.h"
 #include "shell/ObjectLookup.h"
 
-// The object that an open property dialog edits. Keys struck before the dialog opened are still handled while it is
-// open and may delete the object: it is looked for in the document each time.
+// The object that an open property dialog edits. The main window goes on handling its messages meanwhile and may delete
+// the object: it is looked for in the document each time.
 template <class Kind> class EditedObject {
 public:
     // The object at the context point. Null where there is none of the kind; the dialog is then ended.
