@@ -46,7 +46,7 @@ Filter ChosenFilter(const char* pairs, DWORD number)
 fs::path StartFolder(const char* codePageFolder)
 {
     std::error_code error;
-    const fs::path current = fs::current_path(error);
+    fs::path current = fs::current_path(error);
     if (!codePageFolder || !*codePageFolder)
         return current;
     const fs::path asked = (current / platform::NativePath(codePageFolder)).lexically_normal();

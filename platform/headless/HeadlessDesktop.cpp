@@ -79,7 +79,8 @@ Window* HeadlessDesktop::Focus() const
 const Surface& HeadlessDesktop::Screen() const
 {
     static const Surface none;
-    return MainWindow() ? MainWindow()->surface : none;
+    const Window* window = MainWindow();
+    return window ? window->surface : none;
 }
 
 uint32_t HeadlessDesktop::Pixel(int x, int y) const
