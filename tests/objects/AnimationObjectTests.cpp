@@ -1,4 +1,5 @@
 #include "objects/AnimationObject.h"
+#include "objects/ScreenDocument.h"
 #include "tests/objects/ObjectTest.h"
 
 #include <cmath>
@@ -26,8 +27,9 @@ TEST_F(AnimationObjectTest, SkipsNoFrameKeepsItsTimeOverAPauseAndStopsOnTheFirst
     animation.SetSections(2);
     EXPECT_EQ(animation.GetFrame(), 1);
     EXPECT_EQ(FrameAfter(99), 0);
+    animation.SetSections(0);
     animation.Play();
-    EXPECT_EQ(FrameAfter(49), 0); // a play-through starts afresh
+    EXPECT_TRUE(FrameAfter(49) == 0 && animation.IsPlaying()); // a play-through starts afresh
 }
 
 TEST_F(AnimationObjectTest, TakesAnyNumberAsTimePerFrame)
@@ -47,19 +49,22 @@ TEST_F(AnimationObjectTest, TakesAnyNumberAsTimePerFrame)
 
 TEST_F(AnimationObjectTest, DrawsOneWholeFrameInsideTheScreen)
 {
-    const std::tuple<vec, vec, vec, int> cases[] = { { { 40, 40 }, { 1, 2 }, { 1, 2 }, 40 * 5 },
-        { { 400, 50 }, { 790, -20 }, { 750, 0 }, 50 * 50 }, { { 50, 400 }, { -20, INT32_MAX }, { 0, 550 }, 50 * 50 },
-        { { 8000, 650 }, { 30, 30 }, { 0, 0 }, 800 * 600 } };
+    const std::tuple<vec, vec, vec, int> cases[] = { { { 400, 50 }, { 790, -20 }, { 750, 0 }, 50 * 50 },
+        { { 50, 400 }, { -20, INT32_MAX }, { 0, 550 }, 50 * 50 }, { { 8000, 650 }, { 30, 30 }, { 0, 30 }, 800 * 570 },
+        { { 40, 40 }, { 1, 2 }, { 1, 2 }, 40 * 5 } };
     for (const auto& [strip, pos, drawnAt, pixels] : cases) {
         WriteStrip("strip.bmp", strip, 8);
         animation.Reset();
         ASSERT_TRUE(Load(animation, "strip.bmp"));
         animation.SetPos(pos);
+        animation.SetAlpha(0); // until it plays
         animation.SetInterval(0);
         animation.Play();
         EXPECT_FALSE(animation.Draw(nullptr, 2 * ScreenWidth) || animation.GetPos() != pos); // steps, moves nothing
+        ScreenDocument().ClipObject(animation, false);
         EXPECT_EQ(FrameAfter(0), 2);
         EXPECT_EQ(animation.GetPos(), drawnAt);
         EXPECT_EQ(Count(SectionColor(2)), pixels) << strip.x;
     }
+    EXPECT_TRUE(animation.HitTest({ 41, 42 }, {})); // a square strip is hit over its whole height
 }

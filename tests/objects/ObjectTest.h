@@ -40,7 +40,6 @@ protected:
         std::fill(canvas.begin(), canvas.end(), untouched);
         return object.Draw(canvas.data(), 2 * ScreenWidth);
     }
-    // How many pixels have the colour.
     ptrdiff_t Count(uint16_t color) const { return std::count(canvas.begin(), canvas.end(), color); }
 
     platform::HeadlessDesktop desktop;

@@ -10,11 +10,6 @@ namespace {
 using Place = std::tuple<vec, vec, vec>; // pos, src, view
 using Places = std::vector<Place>;
 
-Place PlaceOf(const ScreenObject& object)
-{
-    return { object.GetPos(), object.GetSrc(), object.GetView() };
-}
-
 // Has no picture, is hit in its whole rectangle, and notes where it was drawn.
 class Fake : public PictureObject {
 public:
@@ -24,6 +19,7 @@ public:
         pos = place;
         size = view = extent;
     }
+    static Place PlaceOf(const ScreenObject& object) { return { object.GetPos(), object.GetSrc(), object.GetView() }; }
     bool Draw(uint16_t*, int32_t) override { return drawings.push_back(PlaceOf(*this)), true; }
     bool HitTest(vec point, vec) override { return CoversPoint(pos, view, point); }
 
@@ -76,7 +72,8 @@ TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCe
     EXPECT_TRUE(document.FindObjectAt({ 39, 40 }, index) && index == 0);
     EXPECT_FALSE(document.FindObjectAt({ 91, 40 }, index) || index != -1);
     EXPECT_TRUE(document.IsObjectInRect(1, { 64, 49 }, { 91, 71 }));
-    EXPECT_FALSE(document.IsObjectInRect(1, { 64, 50 }, { 91, 71 })); // the centre is on the edge
+    for (const auto& [a, b] : { std::pair(vec(64, 50), vec(91, 71)), { { 39, 29 }, { 65, 71 } } })
+        EXPECT_FALSE(document.IsObjectInRect(1, a, b)); // the centre is on the edge
     EXPECT_FALSE(document.IsObjectInRect(1, { 41, 31 }, { 89, 69 })); // no corner
 }
 
@@ -99,12 +96,13 @@ TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackground
     const Places fitted { { { 0, 1 }, { 5, 0 }, { 45, 40 } }, { { 0, 2 }, { 0, 0 }, { 50, 40 } },
         { { 750, 0 }, { 0, 20 }, { 50, 30 } } };
     const auto& objects = document.GetObjects();
-    const auto places = [&] { return Places { PlaceOf(*objects[0]), PlaceOf(*objects[1]), PlaceOf(*objects[2]) }; };
     document.FitAll();
-    EXPECT_EQ(places(), fitted);
+    for (size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(Fake::PlaceOf(*objects[i]), fitted[i]) << i;
     EXPECT_TRUE(drawings.empty() && animation.GetFrame() == 0); // nothing but fitted
+    objects[0]->SetPos({ -5, 1 });
     EXPECT_EQ(Frame(), (Places { background, fitted[1], fitted[0] }));
-    EXPECT_EQ(places(), fitted);
+    EXPECT_EQ(Fake::PlaceOf(animation), fitted[2]);
 
     objects[0]->SetLayer(9); // leaves layer 1 without object: drawing goes on, the search ends there
     EXPECT_EQ(Frame(), (Places { background, fitted[1] }));
@@ -117,6 +115,7 @@ TEST_F(ScreenDocumentTest, CutsAtTheEdgesOrPushesBackInside)
         { false, { -30, 10 }, { 0, 0 }, { 40, 30 }, { { 0, 10 }, { 30, 0 }, { 10, 30 } } },
         { false, { 0, 10 }, { 30, 0 }, { 40, 30 }, { { 0, 10 }, { 30, 0 }, { 10, 30 } } }, // cropped again
         { false, { 0, -8 }, { 30, 0 }, { 40, 30 }, { { 0, 0 }, { 0, 8 }, { 40, 22 } } }, // both offsets are replaced
+        { false, { -8, 0 }, { 0, 20 }, { 40, 30 }, { { 0, 0 }, { 8, 0 }, { 32, 30 } } },
         { false, { 900, 590 }, { 7, 7 }, { 40, 30 }, { { 800, 590 }, { 0, 0 }, { 0, 10 } } },
         { false, { INT32_MIN, INT32_MAX }, { 0, 0 }, { 40, 30 }, { { 0, 600 }, { INT32_MAX, 0 }, { 0, 0 } } },
         { true, { 790, 10 }, { 3, 4 }, { 40, 30 }, { { 760, 10 }, { 0, 0 }, { 40, 30 } } },
@@ -127,14 +126,14 @@ TEST_F(ScreenDocumentTest, CutsAtTheEdgesOrPushesBackInside)
         ScreenObject& object = Add(pos, EffectNone, size);
         object.SetSrc(src);
         document.ClipObject(object, keepInside);
-        EXPECT_EQ(PlaceOf(object), fitted) << keepInside << " at " << pos.x << ", " << pos.y;
+        EXPECT_EQ(Fake::PlaceOf(object), fitted) << keepInside << " at " << pos.x << ", " << pos.y;
     }
 }
 
 TEST_F(ScreenDocumentTest, SlidesObjectsInFromEachSide)
 {
     const std::tuple<EffectKind, vec, vec, vec, vec, int32_t> slides[] = {
-        { EffectFromTop, { 100, 200 }, { 3, 4 }, { 97, -44 }, { 0, 10 }, 24 },
+        { EffectFromTop, { 100, 200 }, { 3, 14 }, { 97, -54 }, { 0, 10 }, 24 },
         { EffectFromBottom, { 0, 205 }, { 30, 0 }, { -30, 600 }, { 0, -10 }, 39 },
         { EffectFromLeft, { 0, 0 }, { 30, 7 }, { -80, -7 }, { 10, 0 }, 5 },
         { EffectFromRight, { 805, 9 }, { 0, 7 }, { 800, 9 }, { -10, 0 }, 0 },
@@ -174,14 +173,14 @@ TEST_F(ScreenDocumentTest, HidesForGoodWhatFadesOutAndKeepsRecordsWithTheirObjec
     Add({ 1, 2 }, EffectFadeOut);
     for (int32_t index = -1; index <= 4; ++index)
         document.StartEffect(index);
+    EXPECT_EQ(document.GetEffects().size(), 2U);
     for (const size_t drawn : { 2U, 3U, 3U })
         EXPECT_EQ(Frame(100).size(), drawn);
     document.RemoveObject(2);
-    EXPECT_TRUE(document.GetEffects().size() == 1 && document.GetEffects()[0].index == 2);
     EXPECT_EQ(Frame(100).size(), 2U);
+    EXPECT_TRUE(document.GetEffects().size() == 1 && document.GetEffects()[0].index == 2);
     document.Clear();
-    EXPECT_TRUE(document.GetEffects().empty());
-    EXPECT_EQ(Add({ 1, 2 }).GetLayer(), 0);
+    EXPECT_TRUE(document.GetEffects().empty() && Add({ 1, 2 }).GetLayer() == 0);
 }
 
 } // namespace
