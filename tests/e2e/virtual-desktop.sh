@@ -18,8 +18,10 @@ end_virtual_desktop() {
 }
 trap end_virtual_desktop EXIT
 
+# Leaves a picture of the whole display where the session keeps its pictures.
 fail() {
     echo "FAILED: $*" >&2
+    [ -n "${DISPLAY:-}" ] && [ -d "${pictures:-}" ] && import -silent -window root "$pictures/failure.png" || true
     exit 1
 }
 
@@ -81,14 +83,15 @@ command_button() {
     click 900 $((row[$1] * 30 + 15))
 }
 
-# drag X1 Y1 X2 Y2: in steps, as a hand moves.
+# drag X1 Y1 X2 Y2: in four steps, as a hand moves. The editor may see moves that come close together as one, so it has
+# time before the last: a rubber band reaches as far as the pointer was a move ago.
 drag() {
     local step
     move_to "$1" "$2"
     xdotool mousedown 1
     for step in 1 2 3 4; do
+        [ $step -lt 4 ] || settle
         move_to $(($1 + ($3 - $1) * step / 4)) $(($2 + ($4 - $2) * step / 4))
-        sleep 0.05
     done
     xdotool mouseup 1
     settle
