@@ -25,6 +25,16 @@ check_tidy() {
         | xargs -P "$(nproc)" -n 4 clang-tidy -p build/clang --quiet 2>/dev/null
 }
 
+# A function that the linker may share between files must not come from one that is compiled for other processors.
+check_row_ops() {
+    local found
+    found=$(find build -name 'RowOpsAvx*.cpp.o' -print0 | xargs -0 -r nm -C -A | grep -E ' W ' || true)
+    [ -z "$found" ] || {
+        echo "$found"
+        return 1
+    }
+}
+
 # Each fuzz target for a short while. What it learns is thrown away; an input that fails stays in build/fuzz.
 check_fuzz() (
     configure_and_build fuzz -DTOBRIK_DESKTOP=OFF || exit

@@ -6,7 +6,7 @@ SBlendTab_::SBlendTab_()
 {
     for (uint32_t a = 0; a < 32; ++a)
         for (uint32_t b = 0; b < 32; ++b)
-            products[a][b] = static_cast<uint8_t>((2 * a * b / 31 + 1) / 2);
+            products[a][b] = Product_(a, b);
     for (uint32_t level = 0; level < 32; ++level) {
         const uint8_t* channel = products[level];
         for (uint32_t color = 0; color < 32768; ++color)

@@ -2,10 +2,16 @@
 
 #include <cstdint>
 
+// a * b / 31, rounded to the nearest whole number; both 0 to 31.
+constexpr uint8_t Product_(uint32_t a, uint32_t b)
+{
+    return static_cast<uint8_t>((2 * a * b / 31 + 1) / 2);
+}
+
 // The blend tables, which scale the channels of 555 colours by level/31. Built during static initialisation and only
 // read afterwards; other static initialisers cannot rely on them.
 struct SBlendTab_ {
-    // products[a][b] is a * b / 31, rounded to the nearest whole number.
+    // products[a][b] is Product_(a, b).
     uint8_t products[32][32] {};
     // scaled[level][color]; 0 for colours with bit 15 set.
     uint16_t scaled[32][65536] {};

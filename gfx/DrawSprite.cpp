@@ -1,81 +1,95 @@
-#include "gfx/BlendTab.h"
 #include "gfx/DrawTask.h"
+#include "gfx/RowOps.h"
 #include "gfx/RunCursor.h"
 
 namespace {
 
-// Pixels of one run, drawn from `row` on at the level of the whole picture.
-template <bool mirrored> struct SRunDrawing_ {
-    const uint16_t* palette;
-    const uint8_t* data;
-    int32_t count;
-    uint8_t level;
-
-    void Copy_(uint16_t* row) const
+// Draws pieces of a sprite's runs, each from the destination of its leftmost pixel on.
+class CRunDrawing_ {
+public:
+    CRunDrawing_(const SPic16Sprite_& sprite, const SDrawTask_& task)
+        : keyIndex(sprite.keyIndex)
+        , mirrored(task.mirrored)
+        , drawLevels(SRowOps_::For_(mirrored).blendLevelsRun)
+        , drawIndices(task.level == 31 ? SRowOps_::For_(mirrored).copyRun : SRowOps_::For_(mirrored).blendRun)
+        , drawFullRuns(task.level == 31 ? SRowOps_::used->copyFullRuns : SRowOps_::used->blendFullRuns)
     {
-        for (int32_t i = 0; i < count; ++i)
-            PixelAt_<mirrored>(row, i) = palette[data[i]];
+        paint.palette = sprite.palette;
+        paint.level = task.level;
+        SRowOps_::used->prepare(paint);
     }
 
-    void Blend_(uint16_t* row) const
+    // Returns where the next pixel's bytes are.
+    const uint8_t* Draw_(uint16_t* row, uint8_t runType, const uint8_t* data, int32_t count) const
     {
-        const SBlend_ blend(level);
-        for (int32_t i = 0; i < count; ++i) {
-            uint16_t& target = PixelAt_<mirrored>(row, i);
-            target = blend(palette[data[i]], target);
+        switch (static_cast<RunType>(runType)) {
+        case RunZero:
+            return data;
+        case RunNormal:
+            drawIndices(row, data, count, paint);
+            return data + count;
+        case RunAlpha:
+            drawLevels(row, data, count, paint);
+            return data + ptrdiff_t { 2 } * count;
+        case RunTrans:
+            DrawUnlessKey_(row, data, count);
+            return data + count;
+        }
+        return data;
+    }
+
+    void DrawFullRuns_(uint16_t* row, const uint8_t* stream, int32_t runs) const
+    {
+        drawFullRuns(row, stream, runs, paint);
+    }
+
+private:
+    // The stretches between pixels of the key index are opaque runs.
+    void DrawUnlessKey_(uint16_t* row, const uint8_t* data, int32_t count) const
+    {
+        for (int32_t start = 0; start < count; ++start) {
+            int32_t end = start;
+            while (end < count && data[end] != keyIndex)
+                ++end;
+            if (end > start)
+                drawIndices(row + (mirrored ? count - end : start), data + start, end - start, paint);
+            start = end;
         }
     }
 
-    // The product with level 31 is the pixel's own level.
-    void BlendEach_(uint16_t* row) const
-    {
-        const uint8_t* combined = SBlendTab_::instance.products[level];
-        for (ptrdiff_t i = 0; i < count; ++i) {
-            uint16_t& target = PixelAt_<mirrored>(row, i);
-            target = SBlend_(combined[data[2 * i + 1]])(palette[data[2 * i]], target);
-        }
-    }
-
-    void DrawUnlessKey_(uint16_t* row, uint8_t keyIndex) const
-    {
-        const SBlend_ blend(level);
-        for (int32_t i = 0; i < count; ++i) {
-            uint16_t& target = PixelAt_<mirrored>(row, i);
-            if (data[i] != keyIndex)
-                target = level == 31 ? palette[data[i]] : blend(palette[data[i]], target);
-        }
-    }
+    SSpritePaint_ paint;
+    uint8_t keyIndex;
+    bool mirrored;
+    SRowOps_::DrawRun_ drawLevels;
+    SRowOps_::DrawRun_ drawIndices;
+    SRowOps_::DrawFullRuns_ drawFullRuns;
 };
 
-template <bool mirrored> void DrawRun_(uint16_t* row, const SRunCursor_& cursor, int32_t count, uint8_t level)
-{
-    const SRunDrawing_<mirrored> run { cursor.palette, cursor.position, count, level };
-    switch (static_cast<RunType>(cursor.runType)) {
-    case RunZero:
-        break;
-    case RunNormal:
-        level == 31 ? run.Copy_(row) : run.Blend_(row);
-        break;
-    case RunAlpha:
-        run.BlendEach_(row);
-        break;
-    case RunTrans:
-        run.DrawUnlessKey_(row, cursor.keyIndex);
-        break;
-    }
-}
+// A row that is shorter than two full runs is drawn run by run, without asking for those: that is what most of the time
+// of small pictures goes into. The cursor is a local of this function, with nothing else pointing at it, and so stays
+// in registers.
+enum class Rows_ { Short, Long, Mirrored };
 
-template <bool mirrored> void DrawRows_(const SPic16Sprite_& sprite, const SDrawTask_& task)
+template <Rows_ rows> void DrawRows_(const SPic16Sprite_& sprite, const SDrawTask_& task)
 {
+    const CRunDrawing_ drawing(sprite, task);
     SRunCursor_ cursor(sprite);
     cursor.SkipRows_(task.firstRow);
     const int32_t rightMargin = sprite.width - task.firstColumn - task.width;
     for (int32_t row = 0; row < task.height; ++row) {
         cursor.Skip_(task.firstColumn);
+        uint16_t* const target = task.Row_(row);
         for (int32_t x = 0; x < task.width;) {
-            const int32_t taken = cursor.Take_(task.width - x);
-            DrawRun_<mirrored>(&PixelAt_<mirrored>(task.Row_(row), x), cursor, taken, task.level);
-            cursor.Advance_(taken);
+            const int32_t left = task.width - x;
+            const int32_t fullRuns = rows == Rows_::Long ? cursor.FullRuns_(left) : 0;
+            if (fullRuns > 0) {
+                drawing.DrawFullRuns_(target + x, cursor.position, fullRuns);
+                x += cursor.SkipFullRuns_(fullRuns);
+                continue;
+            }
+            const int32_t taken = cursor.Take_(left);
+            uint16_t* const leftmost = target + (rows == Rows_::Mirrored ? left - taken : x);
+            cursor.position = drawing.Draw_(leftmost, cursor.runType, cursor.position, taken);
             x += taken;
         }
         cursor.Skip_(rightMargin);
@@ -87,5 +101,10 @@ template <bool mirrored> void DrawRows_(const SPic16Sprite_& sprite, const SDraw
 void DrawSprite_(const SPic16X_* picture, const SDrawTask_& task)
 {
     const auto& sprite = *static_cast<const SPic16Sprite_*>(picture);
-    task.mirrored ? DrawRows_<true>(sprite, task) : DrawRows_<false>(sprite, task);
+    if (task.mirrored)
+        DrawRows_<Rows_::Mirrored>(sprite, task);
+    else if (task.width < 2 * SPic16Sprite_::longestRun)
+        DrawRows_<Rows_::Short>(sprite, task);
+    else
+        DrawRows_<Rows_::Long>(sprite, task);
 }

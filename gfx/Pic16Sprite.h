@@ -17,7 +17,7 @@ enum RunType : uint8_t { RunZero = 0x00, RunNormal = 0x40, RunAlpha = 0x80, RunT
 
 struct SPic16Sprite_ : SPic16X_ {
     static constexpr uint32_t headBytes = 520;
-    static constexpr uint32_t longestRun = 64;
+    static constexpr int32_t longestRun = 64;
 
     uint8_t keyIndex;
     uint8_t reserved;

@@ -62,7 +62,6 @@ void SPic16X_::Draw_(const SPic16X_* picture, uint16_t* destination, int32_t pit
         return;
     const bool mirrored = (flags & DrawMirrored) != 0;
     const bool flipped = (flags & DrawFlipped) != 0;
-    const ptrdiff_t startColumn = ptrdiff_t { destinationX } + (mirrored ? w - 1 : 0);
     const ptrdiff_t startRow = ptrdiff_t { destinationY } + (flipped ? h - 1 : 0);
     char* rowStart = reinterpret_cast<char*>(destination) + pitch * startRow;
     const SDrawTask_ task {
@@ -70,7 +69,7 @@ void SPic16X_::Draw_(const SPic16X_* picture, uint16_t* destination, int32_t pit
         .firstColumn = mirrored ? picture->width - sourceX - w : sourceX,
         .width = w,
         .height = h,
-        .destination = reinterpret_cast<uint16_t*>(rowStart) + startColumn,
+        .destination = reinterpret_cast<uint16_t*>(rowStart) + destinationX,
         .rowStep = flipped ? -ptrdiff_t { pitch } : pitch,
         .level = level,
         .mirrored = mirrored,

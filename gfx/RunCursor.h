@@ -41,17 +41,48 @@ struct SRunCursor_ {
     int32_t Take_(int32_t wanted)
     {
         Fetch_();
-        const int32_t taken = std::min(wanted, remaining);
-        remaining -= taken;
-        return taken;
+        if (remaining <= wanted) [[likely]] {
+            const int32_t taken = remaining;
+            remaining = 0;
+            return taken;
+        }
+        remaining -= wanted;
+        return wanted;
+    }
+
+    // How many full opaque runs follow each other here, of pixels that are all wanted; 0 within a run.
+    int32_t FullRuns_(int32_t wanted) const
+    {
+        constexpr uint8_t control = RunNormal | (SPic16Sprite_::longestRun - 1);
+        int32_t runs = 0;
+        while (remaining == 0 && (runs + 1) * SPic16Sprite_::longestRun <= wanted
+            && position[fullRunBytes * runs] == control)
+            ++runs;
+        return runs;
+    }
+
+    // Returns the number of their pixels.
+    int32_t SkipFullRuns_(int32_t runs)
+    {
+        position += fullRunBytes * runs;
+        return runs * SPic16Sprite_::longestRun;
     }
 
     void Advance_(int32_t pixels) { position += BytesPerPixel_() * pixels; }
 
     // Nothing for counts below 1.
-    void Skip_(int64_t pixels);
-    void SkipRows_(int32_t rows);
+    void Skip_(int64_t pixels)
+    {
+        while (pixels > 0) {
+            const int32_t taken = Take_(static_cast<int32_t>(std::min<int64_t>(pixels, SPic16Sprite_::longestRun)));
+            Advance_(taken);
+            pixels -= taken;
+        }
+    }
+    void SkipRows_(int32_t rows) { Skip_(int64_t { rows } * width); }
 
 private:
+    static constexpr ptrdiff_t fullRunBytes = 1 + SPic16Sprite_::longestRun;
+
     ptrdiff_t BytesPerPixel_() const { return runType == RunZero ? 0 : runType == RunAlpha ? 2 : 1; }
 };

@@ -1,6 +1,7 @@
 #include "gfx/Pic16.h"
 #include "gfx/Pic16Key.h"
 #include "gfx/Pic16Sprite.h"
+#include "gfx/RowOps.h"
 
 #include <gtest/gtest.h>
 
@@ -70,9 +71,10 @@ protected:
         for (uint16_t& color : sprite->palette)
             color = RandomColor();
         uint8_t* out = sprite->Stream_();
+        int type = 0;
         for (int left = sprite->width * sprite->height; left > 0;) {
-            const int type = Random(0, 3);
-            const int count = std::min({ left, 64, Random(0, 1) == 0 ? 3 : Random(1, 100) });
+            type = Random(0, 2) == 0 ? type : Random(0, 3);
+            const int count = std::min({ left, 64, Random(0, 2) == 0 ? 3 : Random(1, 150) });
             left -= count;
             *out++ = static_cast<uint8_t>(type << 6 | (count - 1));
             for (int i = 0; i < count; ++i) {
@@ -116,12 +118,18 @@ protected:
     std::vector<uint16_t> expected = canvas;
 };
 
-TEST_F(Drawing, AgreesWithThePixelModel)
+TEST_F(Drawing, AgreesWithThePixelModelInEverySetOfRowOperations)
 {
+    const SRowOps_* best = SRowOps_::used;
     for (int i = 0; i < 3000 && !HasFatalFailure(); ++i) {
-        MakePicture(static_cast<uint16_t>(Random(1, i % 50 == 0 ? 300 : 24)), static_cast<uint16_t>(Random(1, 16)));
-        DrawAnywhere();
+        MakePicture(static_cast<uint16_t>(Random(1, i % 20 == 0 ? 300 : 24)), static_cast<uint16_t>(Random(1, 16)));
+        for (const SRowOps_* set : SRowOps_::Available_()) {
+            SCOPED_TRACE(set->name);
+            SRowOps_::used = set;
+            DrawAnywhere();
+        }
     }
+    SRowOps_::used = best;
 }
 
 } // namespace
