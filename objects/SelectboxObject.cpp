@@ -111,14 +111,8 @@ bool SelectboxObject::HandleMessage(ObjectMessage msg, uint32_t wParam, uint32_t
     if (scroll == 0)
         return edit;
     scrollTick = GetTickCount();
-    Step(scroll);
+    current += scroll;
     return true;
-}
-
-// Steps wrap around at 2^32: presses on a box without choices are never brought back into a range.
-void SelectboxObject::Step(int32_t by)
-{
-    current = (vec(current) + vec(by)).x;
 }
 
 void SelectboxObject::RepeatHeldStep()
@@ -127,10 +121,10 @@ void SelectboxObject::RepeatHeldStep()
     if (scroll == 0 || now - scrollTick <= repeatDelayMs)
         return;
     scrollTick = now;
-    Step(scroll);
+    current += scroll;
 }
 
-// A held button stops at the ends of the list, single steps go round.
+// A held button stops at the ends of the list, single steps go round. Without choices that leaves 0 or -1.
 void SelectboxObject::KeepCurrentInRange()
 {
     const int32_t last = GetCount() - 1;
@@ -148,8 +142,8 @@ bool SelectboxObject::Draw(uint16_t* dest, int32_t pitch)
     DrawPart(editPicture->get(), dest, pitch);
     DrawPart(upButton->get(), dest, pitch);
     DrawPart(downButton->get(), dest, pitch);
+    KeepCurrentInRange();
     if (!choices.empty()) {
-        KeepCurrentInRange();
         const SelectboxChoice& choice = choices[static_cast<size_t>(current)];
         if (choice.word) {
             choice.word->SetPos(pos + choice.offset);

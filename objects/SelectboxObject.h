@@ -82,7 +82,6 @@ public:
 
 private:
     void PlaceParts();
-    void Step(int32_t by);
     void RepeatHeldStep();
     void KeepCurrentInRange();
 

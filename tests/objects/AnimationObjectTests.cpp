@@ -19,14 +19,16 @@ TEST_F(AnimationObjectTest, SkipsNoFrameKeepsItsTimeOverAPauseAndStopsOnTheFirst
     animation.Play();
     EXPECT_EQ(FrameAfter(49), 0);
     EXPECT_EQ(FrameAfter(31), 1);
+    animation.SetAlpha(0);
     animation.Pause();
-    EXPECT_EQ(FrameAfter(1000), 1);
+    EXPECT_TRUE(FrameAfter(1000) == 1 && animation.GetAlpha() == 255);
     animation.Play();
     EXPECT_EQ(FrameAfter(19), 1);
     EXPECT_EQ(FrameAfter(1), 2);
     animation.SetSections(2);
     EXPECT_EQ(animation.GetFrame(), 1);
-    EXPECT_EQ(FrameAfter(99), 0);
+    animation.SetAlpha(0);
+    EXPECT_TRUE(FrameAfter(99) == 0 && animation.GetAlpha() == 255);
     animation.SetSections(0);
     animation.Play();
     EXPECT_TRUE(FrameAfter(49) == 0 && animation.IsPlaying()); // a play-through starts afresh
@@ -65,6 +67,7 @@ TEST_F(AnimationObjectTest, DrawsOneWholeFrameInsideTheScreen)
         EXPECT_EQ(FrameAfter(0), 2);
         EXPECT_EQ(animation.GetPos(), drawnAt);
         EXPECT_EQ(Count(SectionColor(2)), pixels) << strip.x;
+        EXPECT_FALSE(animation.HitTest(drawnAt + vec(animation.GetView().x + 1, 0), {}));
     }
     EXPECT_TRUE(animation.HitTest({ 41, 42 }, {})); // a square strip is hit over its whole height
 }

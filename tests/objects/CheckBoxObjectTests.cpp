@@ -8,7 +8,8 @@ TEST_F(CheckBoxObjectTest, TogglesOnItsBoxAloneAndShowsItsState)
     WriteStrip("ro_chkbox.bmp", { 16, 64 }, 4);
     CheckBoxObject checkBox;
     checkBox.SetLabelText("label");
-    ASSERT_TRUE(checkBox.Build());
+    ASSERT_TRUE(checkBox.Build() && Draw(checkBox));
+    EXPECT_EQ(Count(SectionColor(0)) + Count(SectionColor(1)), 256);
     EXPECT_EQ(checkBox.GetSize(), vec(21 + checkBox.GetLabelSize().x, 16));
     EXPECT_TRUE(checkBox.HitTest(checkBox.GetSize(), {}));
     for (const auto& [press, state] : { std::pair(vec(25, 5), 0), { { 16, 16 }, 1 }, { { 0, 0 }, 0 } }) {

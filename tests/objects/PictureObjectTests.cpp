@@ -27,10 +27,12 @@ TEST_F(PictureObjectTest, TakesPureGreenAsTransparentUnlessThereIsACompanion)
     EXPECT_EQ(Count(untouched), std::ssize(canvas) - 43);
     EXPECT_FALSE(picture.PixelHit({ 9, 1 }));
     std::filesystem::rename("logo.bmp", "logo.bmp.bmp");
-    BmpFile(11, 4, 128).Write("logoa.bmp.bmp");
+    BmpFile(11, 4, 247).Write("logoa.bmp.bmp");
     ASSERT_TRUE(Load(picture, "logo.bmp.bmp") && Draw(picture));
     EXPECT_EQ(Count(untouched), std::ssize(canvas) - 44);
-    EXPECT_FALSE(picture.PixelHit({ 0, 0 })); // half seen is not hit
+    EXPECT_FALSE(picture.PixelHit({ 0, 0 })); // nearly opaque is not hit
+    picture.SetAlpha(7);
+    EXPECT_TRUE(Draw(picture) && Count(untouched) == std::ssize(canvas) && picture.HitTest({ 0, 0 }, {})); // unseen
 }
 
 TEST_F(PictureObjectTest, KeepsItsPlaceWhenLoadedAgainAndIsNeitherDrawnNorHitAfterAFailedLoad)
@@ -58,7 +60,7 @@ TEST_F(PictureObjectTest, IsHitInItsViewWithOneMorePixelAndByPixelWithin)
     }
     picture.SetBoundaryCheck(true);
     EXPECT_FALSE(picture.HitTest({ 0, 3 }, { 11, 4 })); // fills the screen
-    EXPECT_TRUE(picture.HitTest({ 0, 3 }, { 11, 5 }));
+    EXPECT_TRUE(picture.HitTest({ 6, 7 }, { 11, 5 })); // in the whole picture again
 }
 
 TEST_F(PictureObjectTest, IsCutToPictureAndCanvasWhateverItsFieldsSay)

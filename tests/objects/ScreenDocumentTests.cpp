@@ -71,7 +71,8 @@ TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCe
     EXPECT_TRUE(document.FindObjectAt({ 50, 40 }, index) && index == 1);
     EXPECT_TRUE(document.FindObjectAt({ 39, 40 }, index) && index == 0);
     EXPECT_FALSE(document.FindObjectAt({ 91, 40 }, index) || index != -1);
-    EXPECT_TRUE(document.IsObjectInRect(1, { 64, 49 }, { 91, 71 }));
+    for (const vec a : { vec(39, 29), vec(64, 29), vec(64, 49), vec(39, 49) })
+        EXPECT_TRUE(document.IsObjectInRect(1, a, a + vec(27, 22))) << a.x << ", " << a.y;
     for (const auto& [a, b] : { std::pair(vec(64, 50), vec(91, 71)), { { 39, 29 }, { 65, 71 } } })
         EXPECT_FALSE(document.IsObjectInRect(1, a, b)); // the centre is on the edge
     EXPECT_FALSE(document.IsObjectInRect(1, { 41, 31 }, { 89, 69 })); // no corner
@@ -107,6 +108,8 @@ TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackground
     objects[0]->SetLayer(9); // leaves layer 1 without object: drawing goes on, the search ends there
     EXPECT_EQ(Frame(), (Places { background, fitted[1] }));
     EXPECT_EQ(desktop.DebugMessages().at(0).bytes, " Layer 1 is no object\n");
+    document.Clear();
+    EXPECT_EQ(std::count(document.GetCanvas(), document.GetCanvas() + canvas.size(), 0), std::ssize(canvas));
 }
 
 TEST_F(ScreenDocumentTest, CutsAtTheEdgesOrPushesBackInside)
@@ -151,17 +154,18 @@ TEST_F(ScreenDocumentTest, SlidesObjectsInFromEachSide)
 TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameAndEndsWhereTheObjectWas)
 {
     desktop.SetClock(0xFFFFFFF0); // the counter wraps around on the way
-    const ScreenObject& object = Add({ 100, 203 }, EffectFromTop);
+    ScreenObject& object = Add({ 770, 203 }, EffectFromTop);
+    object.SetBoundaryCheck(true); // holds before and after, not on the way
     document.StartEffect(0);
     document.StartEffect(0);
     EXPECT_TRUE(Frame(19).empty());
-    EXPECT_EQ(Frame(1), (Places { { { 100, 0 }, { 0, 40 }, { 50, 0 } } }));
+    EXPECT_EQ(Frame(1), (Places { { { 770, 0 }, { 0, 40 }, { 30, 0 } } }));
     EXPECT_TRUE(Frame(5).empty());
     for (int32_t step = 1; step <= 24; ++step) {
         EXPECT_EQ(Frame(100).size(), 1U);
         EXPECT_EQ((object.GetPos() - object.GetSrc()).y, step == 4 ? -10 : 10 * step - 40); // at 0 the cut stays
     }
-    EXPECT_EQ(Frame(100), (Places { { { 100, 203 }, { 0, 0 }, { 50, 40 } } }));
+    EXPECT_EQ(Frame(100), (Places { { { 750, 203 }, { 0, 0 }, { 50, 40 } } }));
     EXPECT_FALSE(object.GetEffectRunning() || !document.GetEffects().empty());
 }
 

@@ -36,7 +36,7 @@ TEST_F(SelectboxObjectTest, GoesRoundByClicksAndStopsAtTheEndsWhileHeld)
 
 TEST_F(SelectboxObjectTest, SkipsMissingWordsPicturesAndIndexes)
 {
-    EXPECT_TRUE(Click(onUp) && Draw(box));
+    EXPECT_TRUE(Click(onUp) && Click(onUp) && CurrentAfter(0) == -1); // in range, with nothing to show
     box.AddString("");
     box.AddString(std::string(259, 'm'));
     box.SetUpFile("missing.bmp");
@@ -53,7 +53,7 @@ TEST_F(SelectboxObjectTest, IsCopiedWithoutWhatWasBuiltButWithWordsOfItsOwn)
     SelectboxObject original;
     original.AddString("choice");
     original.SetPos({ 30, 40 });
-    ASSERT_TRUE(original.Build() && Draw(original));
+    ASSERT_TRUE(original.Build() && original.HitTest({ 150, 60 }, {}) && Draw(original));
     EXPECT_EQ(original.GetUpButton()->GetPos(), vec(138, 41));
     const auto look = canvas;
     box = original; // which was built

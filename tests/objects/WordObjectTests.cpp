@@ -7,6 +7,7 @@ TEST_F(WordObjectTest, ShowsItsLettersAloneInTheColourThatItWasRenderedWith)
 {
     WordObject word;
     word.SetText("text");
+    EXPECT_EQ(word.GetSize(), vec(28, 14));
     word.SetColor(0x7FFF, 0x7F00, 8); // components count modulo 256
     for (const uint16_t color : { blue, uint16_t { 0x7C01 } }) {
         EXPECT_TRUE(Draw(word) && Count(color) > 20);
