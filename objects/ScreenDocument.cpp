@@ -93,9 +93,23 @@ bool ScreenDocument::IndexOfLayer(int32_t layer, int32_t& index) const
     return index >= 0;
 }
 
+// Backwards, so that the first object in list order has the last word.
+std::vector<int32_t> ScreenDocument::IndicesByLayer() const
+{
+    std::vector<int32_t> indices(static_cast<size_t>(layerCount), -1);
+    for (int32_t index = GetObjectCount() - 1; index >= 0; --index) {
+        const int32_t layer = objects[static_cast<size_t>(index)]->GetLayer();
+        if (layer >= 0 && layer < layerCount)
+            indices[static_cast<size_t>(layer)] = index;
+    }
+    return indices;
+}
+
 bool ScreenDocument::FindObjectAt(vec point, int32_t& index) const
 {
-    for (int32_t layer = layerCount - 1; layer >= 0 && IndexOfLayer(layer, index); --layer) {
+    const std::vector<int32_t> indices = IndicesByLayer();
+    for (auto topmost = indices.rbegin(); topmost != indices.rend() && *topmost >= 0; ++topmost) {
+        index = *topmost;
         if (objects[static_cast<size_t>(index)]->HitTest(point, { ScreenWidth, ScreenHeight }))
             return true;
     }
@@ -183,10 +197,11 @@ const uint16_t* ScreenDocument::Render()
         ClipObject(*background, false);
         background->Draw(canvas.get(), pitch);
     }
+    const std::vector<int32_t> indices = IndicesByLayer();
     for (int32_t layer = 0; layer < layerCount; ++layer) {
-        int32_t index = -1;
+        const int32_t index = indices[static_cast<size_t>(layer)];
         ScreenObject* object = nullptr;
-        if (!IndexOfLayer(layer, index)) {
+        if (index < 0) {
             LogLayer(" Layer ", layer, " is no object\n");
         } else if (!GetObject(index, object)) {
             LogLayer(u8"無法取得 Pointer 的處理方式, Layer "_big5, layer, "");

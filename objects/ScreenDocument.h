@@ -79,6 +79,8 @@ public:
 private:
     void Add(std::unique_ptr<ScreenObject> object, ObjectKind kind);
     void FitObject(ScreenObject& object) const;
+    // What IndexOfLayer finds for every layer, -1 where it finds nothing; for who needs them all.
+    std::vector<int32_t> IndicesByLayer() const;
 
     std::vector<std::unique_ptr<ScreenObject>> objects;
     std::vector<std::unique_ptr<PictureObject>> backgrounds;
