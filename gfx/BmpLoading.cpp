@@ -3,6 +3,7 @@
 #include "gfx/Pic16Sprite.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <iterator>
 #include <limits>
@@ -68,13 +69,28 @@ bool ReadEightBitInfo_(const char* fileName, SBmpInfo_& info)
     return ReadBmpInfo_(fileName, true, info) && info.bitsPerPixel == 8;
 }
 
-// Turns palette indices of the alpha file into alphas of 0 to 248: the top five bits of the colour's blue.
+// Turns palette indices of the alpha file into alphas of 0 to 248: the top five bits of the colour's blue. Most of an
+// alpha file is flat: eight indices like the eight before them are not looked up again.
 void MapToAlphas_(std::span<uint8_t> plane, const uint16_t* palette565)
 {
     uint8_t alphas[CBmpReader_::paletteSize];
     for (int i = 0; i < CBmpReader_::paletteSize; ++i)
         alphas[i] = static_cast<uint8_t>((palette565[i] & 0x1F) * 8);
-    for (uint8_t& pixel : plane)
+
+    using Eight_ = std::array<uint8_t, 8>;
+    Eight_ indices {};
+    Eight_ mapped;
+    mapped.fill(alphas[0]);
+    size_t i = 0;
+    for (; i + mapped.size() <= plane.size(); i += mapped.size()) {
+        uint8_t* const pixels = plane.data() + i;
+        if (std::memcmp(pixels, indices.data(), indices.size()) != 0) {
+            std::copy_n(pixels, indices.size(), indices.begin());
+            std::ranges::transform(indices, mapped.begin(), [&](uint8_t index) { return alphas[index]; });
+        }
+        std::ranges::copy(mapped, pixels);
+    }
+    for (uint8_t& pixel : plane.subspan(i))
         pixel = alphas[pixel];
 }
 

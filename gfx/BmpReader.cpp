@@ -154,8 +154,8 @@ bool ReadBmpInfo_(const char* fileName, bool as565, SBmpInfo_& info)
         info.colorCount = CBmpReader_::paletteSize;
     for (int i = 0; i < info.colorCount; ++i) {
         const SBmpColor_ color = reader.PaletteEntry_(static_cast<uint8_t>(i));
-        const auto convert = as565 ? ToColor565_ : ToColor555_;
-        info.palette[i] = convert(color.red, color.green, color.blue);
+        info.palette[i]
+            = as565 ? ToColor565_(color.red, color.green, color.blue) : ToColor555_(color.red, color.green, color.blue);
     }
     return true;
 }

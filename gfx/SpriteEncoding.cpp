@@ -12,17 +12,34 @@ RunType TypeOf_(uint8_t alpha)
     return level == 0 ? RunZero : level == 31 ? RunNormal : RunAlpha;
 }
 
-// How many pixels from the first one on have its type. Of transparent and opaque ones eight are compared at a time:
-// only the five level bits of each count, and they are all clear or all set.
+constexpr uint64_t levelBits = 0xF8F8F8F8F8F8F8F8;
+
+// Of eight transparent pixels all level bits are clear, of eight opaque ones all are set.
+bool AreOfType_(const uint8_t* eightAlphas, RunType type)
+{
+    uint64_t eight = 0;
+    std::memcpy(&eight, eightAlphas, sizeof eight);
+    return (eight & levelBits) == (type == RunNormal ? levelBits : 0);
+}
+
+// Without a branch for every eight pixels, since most runs of most pictures are full.
+bool IsFullRun_(const uint8_t* alphas, RunType type)
+{
+    bool full = true;
+    for (size_t i = 0; i < SPic16Sprite_::longestRun; i += 8)
+        full &= AreOfType_(alphas + i, type);
+    return full;
+}
+
+// How many pixels from the first one on have its type.
 size_t RunLength_(const uint8_t* alphas, size_t limit, RunType type)
 {
-    constexpr uint64_t levelBits = 0xF8F8F8F8F8F8F8F8;
     size_t length = 1;
-    for (; type != RunAlpha && length + 8 <= limit; length += 8) {
-        uint64_t eight = 0;
-        std::memcpy(&eight, alphas + length, sizeof eight);
-        if ((eight & levelBits) != (type == RunNormal ? levelBits : 0))
-            break;
+    if (type != RunAlpha) {
+        if (limit == SPic16Sprite_::longestRun && IsFullRun_(alphas, type))
+            return limit;
+        while (length + 8 <= limit && AreOfType_(alphas + length, type))
+            length += 8;
     }
     while (length < limit && TypeOf_(alphas[length]) == type)
         ++length;

@@ -22,13 +22,15 @@ struct File {
     static constexpr int64_t pieceBytes = 32768;
 
     int descriptor;
+    int64_t size; // when it was opened: nobody may write to it meanwhile
     int64_t position = 0; // of the next read
     int64_t pieceStart = 0;
     int64_t pieceLength = 0;
     BYTE piece[pieceBytes];
 
-    explicit File(int openDescriptor)
+    File(int openDescriptor, int64_t fileSize)
         : descriptor(openDescriptor)
+        , size(fileSize)
     {
     }
     File(const File&) = delete;
@@ -67,23 +69,28 @@ bool IsOpen(HANDLE file)
     return file != nullptr && file != INVALID_HANDLE_VALUE;
 }
 
+// Without waiting: a pipe under the name of a picture must not stop the program.
+int OpenForReading(const std::string& path)
+{
+    return open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+}
+
 } // namespace
 
 HANDLE CreateFileA(const char* fileName, DWORD access, DWORD, const SECURITY_ATTRIBUTES*, DWORD creation, DWORD, HANDLE)
 {
     if (!fileName || access != GENERIC_READ || creation != OPEN_EXISTING)
         return INVALID_HANDLE_VALUE;
-    const std::string path = platform::NativePath(fileName);
-    if (path.empty())
-        return INVALID_HANDLE_VALUE;
-    // Without waiting: a pipe under the name of a picture must not stop the program.
-    const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    // Most names are spelled as their files are: then nothing has to be looked for.
+    int descriptor = OpenForReading(platform::ExactNativePath(fileName));
+    if (descriptor < 0)
+        descriptor = OpenForReading(platform::NativePath(fileName));
     if (descriptor < 0)
         return INVALID_HANDLE_VALUE;
     struct stat status { };
     std::unique_ptr<platform::File> file;
     if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
-        file.reset(new (std::nothrow) platform::File(descriptor));
+        file.reset(new (std::nothrow) platform::File(descriptor, status.st_size));
     if (!file) {
         close(descriptor);
         return INVALID_HANDLE_VALUE;
@@ -93,12 +100,11 @@ HANDLE CreateFileA(const char* fileName, DWORD access, DWORD, const SECURITY_ATT
 
 DWORD GetFileSize(HANDLE file, DWORD* sizeHigh)
 {
-    struct stat status { };
-    if (!IsOpen(file) || fstat(file->descriptor, &status) != 0 || status.st_size >= INVALID_FILE_SIZE)
+    if (!IsOpen(file) || file->size >= INVALID_FILE_SIZE)
         return INVALID_FILE_SIZE;
     if (sizeHigh)
         *sizeHigh = 0;
-    return static_cast<DWORD>(status.st_size);
+    return static_cast<DWORD>(file->size);
 }
 
 DWORD SetFilePointer(HANDLE file, LONG distance, LONG* distanceHigh, DWORD method)

@@ -48,7 +48,7 @@ bool HasDriveLetter(std::string_view path)
 
 } // namespace
 
-std::string NativePath(std::string_view codePagePath)
+std::string ExactNativePath(std::string_view codePagePath)
 {
     if (!IsFileName(codePagePath))
         return {};
@@ -56,8 +56,14 @@ std::string NativePath(std::string_view codePagePath)
     std::replace(path.begin(), path.end(), '\\', '/');
     if (HasDriveLetter(path))
         path.erase(0, 2);
+    return path;
+}
+
+std::string NativePath(std::string_view codePagePath)
+{
+    std::string path = ExactNativePath(codePagePath);
     std::error_code error;
-    if (fs::exists(path, error))
+    if (path.empty() || fs::exists(path, error))
         return path;
 
     std::string spelled;

@@ -7,9 +7,11 @@
 // Between the program's file names (backslash paths in code page 950) and the system's (UTF-8, slashes).
 namespace platform {
 
-// Decodes, turns separators, drops a drive letter, then looks for the exact name and, component by component, for one
-// that differs only in case. What does not exist keeps its spelling. Empty when the name cannot be a file's name (a
-// broken character, a NUL).
+// Decodes, turns separators and drops a drive letter. Empty when the name cannot be a file's name (a broken character,
+// a NUL).
+std::string ExactNativePath(std::string_view codePagePath);
+// Then looks for the exact name and, component by component, for one that differs only in case. What does not exist
+// keeps its spelling.
 std::string NativePath(std::string_view codePagePath);
 
 // The absolute backslash path of a native one; nothing when code page 950 cannot spell it.
