@@ -18,9 +18,10 @@ end_virtual_desktop() {
 }
 trap end_virtual_desktop EXIT
 
-# Leaves a picture of the whole display where the session keeps its pictures.
+# Shows what the editor said, and leaves a picture of the whole display where the session keeps its pictures.
 fail() {
     echo "FAILED: $*" >&2
+    sed 's/^/the editor: /' "$scratch/editor.log" >&2 2>/dev/null || true
     [ -n "${DISPLAY:-}" ] && [ -d "${pictures:-}" ] && import -silent -window root "$pictures/failure.png" || true
     exit 1
 }
@@ -35,6 +36,8 @@ wait_until() {
     done
 }
 
+window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+
 start_virtual_desktop() {
     local tool
     for tool in Xvfb openbox xdotool import xprop; do
@@ -42,13 +45,14 @@ start_virtual_desktop() {
     done
     export XDG_RUNTIME_DIR=$scratch/runtime
     mkdir -m 700 "$XDG_RUNTIME_DIR"
-    Xvfb -displayfd 7 -screen 0 1280x800x24 -nolisten tcp 7>"$scratch/display" 2>/dev/null &
+    # Without -noreset the server starts anew, and turns clients away, whenever its last client leaves.
+    Xvfb -displayfd 7 -screen 0 1280x800x24 -nolisten tcp -noreset 7>"$scratch/display" 2>/dev/null &
     display_pids+=($!)
     wait_until 10 test -s "$scratch/display" || fail "the virtual display did not start"
     export DISPLAY=:$(<"$scratch/display")
     openbox --config-file /dev/null >/dev/null 2>&1 &
     display_pids=($! "${display_pids[@]}")
-    wait_until 10 xprop -root _NET_SUPPORTING_WM_CHECK || fail "the window manager did not start"
+    wait_until 10 window_manager_runs || fail "the window manager did not start"
 }
 
 # start_editor PROGRAM: in the current folder; its window's id is then in $window.
