@@ -18,8 +18,8 @@ public:
 
     // False when memory is exhausted, and for pictures whose block could outgrow a 32-bit size.
     bool IsReady_() const { return planes && sprite; }
-    std::span<uint8_t> Indices_() { return { planes.get(), pixels }; }
-    std::span<uint8_t> Alphas_() { return { planes.get() + pixels, pixels }; }
+    std::span<uint8_t> Indices_() { return { planes.get(), pixelCount }; }
+    std::span<uint8_t> Alphas_() { return { planes.get() + pixelCount, pixelCount }; }
 
     void Trim_() { SPic16Sprite_::Trim_(sprite.get(), Indices_().data(), Alphas_().data(), &left, &top); }
     // Encodes the planes and lets go of them. A block of the exact size, which the caller owns; null when memory is
@@ -30,17 +30,17 @@ public:
     uint16_t top = 0;
 
 private:
-    size_t pixels;
+    size_t pixelCount;
     std::unique_ptr<uint8_t[]> planes;
     std::unique_ptr<SPic16Sprite_, SPicDeleter_> sprite;
 };
 
 CSpriteWork_::CSpriteWork_(const SBmpInfo_& info)
-    : pixels(size_t { info.width } * info.height)
+    : pixelCount(size_t { info.width } * info.height)
 {
-    if (SPic16Sprite_::headBytes + 3 * pixels > std::numeric_limits<uint32_t>::max())
+    if (SPic16Sprite_::headBytes + 3 * pixelCount > std::numeric_limits<uint32_t>::max())
         return;
-    planes.reset(new (std::nothrow) uint8_t[2 * pixels]);
+    planes.reset(new (std::nothrow) uint8_t[2 * pixelCount]);
     sprite.reset(SPic16Sprite_::New_(info.width, info.height));
     if (!sprite)
         return;
@@ -70,7 +70,7 @@ bool ReadEightBitInfo_(const char* fileName, SBmpInfo_& info)
 }
 
 // Turns palette indices of the alpha file into alphas of 0 to 248: the top five bits of the colour's blue. Most of an
-// alpha file is flat: eight indices like the eight before them are not looked up again.
+// alpha file is flat: eight indices like the eight that were looked up last (zeros at first) are not looked up again.
 void MapToAlphas_(std::span<uint8_t> plane, const uint16_t* palette565)
 {
     uint8_t alphas[CBmpReader_::paletteSize];

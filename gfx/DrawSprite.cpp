@@ -4,7 +4,7 @@
 
 namespace {
 
-// Draws pieces of a sprite's runs, each from the destination of its leftmost pixel on.
+// Draws pieces of a sprite's runs: `row` is where the leftmost pixel of a piece lands.
 class CRunDrawing_ {
 public:
     CRunDrawing_(const SPic16Sprite_& sprite, const SDrawTask_& task)
@@ -19,7 +19,7 @@ public:
         SRowOps_::used->prepare(paint);
     }
 
-    // Returns where the next pixel's bytes are.
+    // Draws `count` pixels of one run, whose bytes start at `data`. Returns where the bytes of the next pixel are.
     const uint8_t* Draw_(uint16_t* row, uint8_t runType, const uint8_t* data, int32_t count) const
     {
         switch (static_cast<RunType>(runType)) {
@@ -38,22 +38,23 @@ public:
         return data;
     }
 
+    // In order only.
     void DrawFullRuns_(uint16_t* row, const uint8_t* stream, int32_t runs) const
     {
         drawFullRuns(row, stream, runs, paint);
     }
 
 private:
-    // The stretches between pixels of the key index are opaque runs.
+    // The stretches between pixels of the key index are drawn as opaque runs.
     void DrawUnlessKey_(uint16_t* row, const uint8_t* data, int32_t count) const
     {
-        for (int32_t start = 0; start < count; ++start) {
-            int32_t end = start;
-            while (end < count && data[end] != keyIndex)
-                ++end;
-            if (end > start)
+        int32_t start = 0; // of the stretch before end
+        for (int32_t end = 0; end <= count; ++end) {
+            if (end < count && data[end] != keyIndex)
+                continue;
+            if (start < end)
                 drawIndices(row + (mirrored ? count - end : start), data + start, end - start, paint);
-            start = end;
+            start = end + 1;
         }
     }
 
@@ -65,12 +66,12 @@ private:
     SRowOps_::DrawFullRuns_ drawFullRuns;
 };
 
-// A row that is shorter than two full runs is drawn run by run, without asking for those: that is what most of the time
-// of small pictures goes into. The cursor is a local of this function, with nothing else pointing at it, and so stays
-// in registers.
+// Full runs are drawn together where a row has room for two of them. To look for them in shorter rows would cost more
+// than it gains.
 enum class Rows_ { Short, Long, Mirrored };
 
-template <Rows_ rows> void DrawRows_(const SPic16Sprite_& sprite, const SDrawTask_& task)
+// The cursor is a local of this function, with nothing else pointing at it, and so stays in registers.
+template <Rows_ rows> void DrawRuns_(const SPic16Sprite_& sprite, const SDrawTask_& task)
 {
     const CRunDrawing_ drawing(sprite, task);
     SRunCursor_ cursor(sprite);
@@ -80,15 +81,16 @@ template <Rows_ rows> void DrawRows_(const SPic16Sprite_& sprite, const SDrawTas
         cursor.Skip_(task.firstColumn);
         uint16_t* const target = task.Row_(row);
         for (int32_t x = 0; x < task.width;) {
-            const int32_t left = task.width - x;
-            const int32_t fullRuns = rows == Rows_::Long ? cursor.FullRuns_(left) : 0;
+            const int32_t wanted = task.width - x;
+            const int32_t fullRuns = rows == Rows_::Long ? cursor.FullRuns_(wanted) : 0;
             if (fullRuns > 0) {
                 drawing.DrawFullRuns_(target + x, cursor.position, fullRuns);
                 x += cursor.SkipFullRuns_(fullRuns);
                 continue;
             }
-            const int32_t taken = cursor.Take_(left);
-            uint16_t* const leftmost = target + (rows == Rows_::Mirrored ? left - taken : x);
+            const int32_t taken = cursor.Take_(wanted);
+            // A mirrored row fills up from its right end.
+            uint16_t* const leftmost = target + (rows == Rows_::Mirrored ? wanted - taken : x);
             cursor.position = drawing.Draw_(leftmost, cursor.runType, cursor.position, taken);
             x += taken;
         }
@@ -102,9 +104,9 @@ void DrawSprite_(const SPic16X_* picture, const SDrawTask_& task)
 {
     const auto& sprite = *static_cast<const SPic16Sprite_*>(picture);
     if (task.mirrored)
-        DrawRows_<Rows_::Mirrored>(sprite, task);
+        DrawRuns_<Rows_::Mirrored>(sprite, task);
     else if (task.width < 2 * SPic16Sprite_::longestRun)
-        DrawRows_<Rows_::Short>(sprite, task);
+        DrawRuns_<Rows_::Short>(sprite, task);
     else
-        DrawRows_<Rows_::Long>(sprite, task);
+        DrawRuns_<Rows_::Long>(sprite, task);
 }

@@ -2,26 +2,28 @@
 
 #include "gfx/BlendTab.h"
 
-// Scaling by multiplication, for processors that do many at once: channel * factor / 32768, rounded, is Product_(level,
-// channel) for every channel and level.
+// What processors that scale many channels at once use instead of the blend tables.
+
+// Scaling by multiplication: channel * factor / 32768, rounded, is Product_(level, channel) for every channel and
+// level.
 struct SLevelFactors_ {
-    // The factors of a blend whose level is one level (of the whole picture) times another (of a pixel).
+    // Of a blend that combines the picture's level with that of each pixel.
     struct SCombined_ {
-        alignas(64) int16_t source[32] {}; // by the other level
+        alignas(64) int16_t source[32] {}; // by the pixel's level
         alignas(64) int16_t target[32] {};
     };
 
     int16_t of[32] {}; // by level
-    SCombined_ combined[32] {}; // by the one level
+    SCombined_ combined[32] {}; // by the picture's level
 
     consteval SLevelFactors_()
     {
         for (int level = 0; level < 32; ++level)
             of[level] = static_cast<int16_t>(level * (32767 / 31));
-        for (uint32_t one = 0; one < 32; ++one)
-            for (uint32_t other = 0; other < 32; ++other) {
-                combined[one].source[other] = of[Product_(one, other)];
-                combined[one].target[other] = of[31 - Product_(one, other)];
+        for (uint32_t ofPicture = 0; ofPicture < 32; ++ofPicture)
+            for (uint32_t ofPixel = 0; ofPixel < 32; ++ofPixel) {
+                combined[ofPicture].source[ofPixel] = of[Product_(ofPicture, ofPixel)];
+                combined[ofPicture].target[ofPixel] = of[31 - Product_(ofPicture, ofPixel)];
             }
     }
 };

@@ -3,6 +3,7 @@
 namespace {
 
 #ifdef TOBRIK_X86_ROW_OPS
+// What the sources of the sets are compiled for (CMakeLists.txt).
 bool HasAvx2_()
 {
     return __builtin_cpu_supports("avx2");
@@ -15,6 +16,7 @@ bool HasAvx512_()
 }
 #endif
 
+// Asks the processor once, during static initialisation, and has drawing use the best set.
 struct SAvailable_ {
     const SRowOps_* sets[3] { &plainRowOps };
     size_t count = 1;
@@ -36,7 +38,7 @@ const SAvailable_ available;
 
 } // namespace
 
-// Until the processor has been asked, should another static initialiser draw.
+// Constant-initialised, so that `available` finds it made.
 constinit const SRowOps_* SRowOps_::used = &plainRowOps;
 
 std::span<const SRowOps_* const> SRowOps_::Available_()

@@ -25,20 +25,22 @@ void Store_(uint16_t* words, __m256i value)
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(words), value);
 }
 
-// 16 colours to be scaled by a factor each. Those with bit 15 set count as black.
+// The channels of 16 colours, each colour scaled by a factor of its own. One with bit 15 set counts as black: shifting
+// its sign down by 15 gives a word of ones, which clears it.
 struct SScaling_ {
     __m256i colors;
-    __m256i factor;
+    __m256i factors;
 
-    SScaling_(__m256i some, __m256i factorOfEach)
-        : colors(_mm256_andnot_si256(_mm256_srai_epi16(some, 15), some))
-        , factor(factorOfEach)
+    SScaling_(__m256i ofColors, __m256i byFactors)
+        : colors(_mm256_andnot_si256(_mm256_srai_epi16(ofColors, 15), ofColors))
+        , factors(byFactors)
     {
     }
+    // mulhrs multiplies, divides by 32768 and rounds.
     __m256i Channel_(int shift) const
     {
         const __m256i channel = _mm256_and_si256(_mm256_srli_epi16(colors, shift), _mm256_set1_epi16(31));
-        return _mm256_mulhrs_epi16(channel, factor);
+        return _mm256_mulhrs_epi16(channel, factors);
     }
 };
 
@@ -82,7 +84,7 @@ template <bool mirrored, int bytes> struct SRun_ {
 
     const uint8_t* operator[](int32_t i) const { return data + ptrdiff_t { bytes } * (mirrored ? count - 1 - i : i); }
 
-    // What one source pixel after the other from i on has in the table, by its byte number `byte`.
+    // The table's entries for 16 pixels from i on, each selected by one byte of its pixel: 0 the index, 1 the level.
     template <class Table> __m256i LookUp_(const Table* table, int32_t i, int byte = 0) const
     {
         const auto at = [&](int32_t k) { return static_cast<int16_t>(table[(*this)[i + k][byte]]); };
@@ -136,11 +138,12 @@ void BlendLevelsRun_(uint16_t* row, const uint8_t* data, int32_t count, const SS
 
 // ---- Rows of colours ------------------------------------------------------------------------------------------------
 
+// Within each half of the register, then the halves.
 __m256i Reversed_(__m256i words)
 {
-    const __m256i inLane = _mm256_setr_epi8(
+    const __m256i inHalf = _mm256_setr_epi8(
         14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1, 14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1);
-    return _mm256_permute4x64_epi64(_mm256_shuffle_epi8(words, inLane), 0x4E);
+    return _mm256_permute4x64_epi64(_mm256_shuffle_epi8(words, inHalf), _MM_SHUFFLE(1, 0, 3, 2));
 }
 
 // Draws whole blocks by draw(row, 16 colours) and the rest by a plain operation.
@@ -212,10 +215,23 @@ void BlendKeyedRow_(uint16_t* row, const uint16_t* colors, ptrdiff_t count, cons
 }
 
 template <bool mirrored>
-constexpr SRowOps_::SPerDirection_ ops { CopyRun_<mirrored>, BlendRun_<mirrored>, BlendLevelsRun_<mirrored>,
-    CopyRow_<mirrored>, BlendRow_<mirrored>, CopyKeyedRow_<mirrored>, BlendKeyedRow_<mirrored> };
+constexpr SRowOps_::SPerDirection_ ops {
+    .copyRun = CopyRun_<mirrored>,
+    .blendRun = BlendRun_<mirrored>,
+    .blendLevelsRun = BlendLevelsRun_<mirrored>,
+    .copyRow = CopyRow_<mirrored>,
+    .blendRow = BlendRow_<mirrored>,
+    .copyKeyedRow = CopyKeyedRow_<mirrored>,
+    .blendKeyedRow = BlendKeyedRow_<mirrored>,
+};
 
 } // namespace
 
-constinit const SRowOps_ avx2RowOps { "AVX2", ScalePalette_, DrawFullRuns_<CopyRun_<false>>,
-    DrawFullRuns_<BlendRun_<false>>, ops<false>, ops<true> };
+constinit const SRowOps_ avx2RowOps {
+    .name = "AVX2",
+    .prepare = ScalePalette_,
+    .inOrder = ops<false>,
+    .mirrored = ops<true>,
+    .copyFullRuns = RunByRun_<CopyRun_<false>>,
+    .blendFullRuns = RunByRun_<BlendRun_<false>>,
+};

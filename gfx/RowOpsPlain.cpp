@@ -84,10 +84,23 @@ void BlendKeyedRow_(uint16_t* row, const uint16_t* colors, ptrdiff_t count, cons
 }
 
 template <bool mirrored>
-constexpr SRowOps_::SPerDirection_ ops { CopyRun_<mirrored>, BlendRun_<mirrored>, BlendLevelsRun_<mirrored>,
-    CopyRow_<mirrored>, BlendRow_<mirrored>, CopyKeyedRow_<mirrored>, BlendKeyedRow_<mirrored> };
+constexpr SRowOps_::SPerDirection_ ops {
+    .copyRun = CopyRun_<mirrored>,
+    .blendRun = BlendRun_<mirrored>,
+    .blendLevelsRun = BlendLevelsRun_<mirrored>,
+    .copyRow = CopyRow_<mirrored>,
+    .blendRow = BlendRow_<mirrored>,
+    .copyKeyedRow = CopyKeyedRow_<mirrored>,
+    .blendKeyedRow = BlendKeyedRow_<mirrored>,
+};
 
 } // namespace
 
-constinit const SRowOps_ plainRowOps { "plain", ScalePalette_, DrawFullRuns_<CopyRun_<false>>,
-    DrawFullRuns_<BlendRun_<false>>, ops<false>, ops<true> };
+constinit const SRowOps_ plainRowOps {
+    .name = "plain",
+    .prepare = ScalePalette_,
+    .inOrder = ops<false>,
+    .mirrored = ops<true>,
+    .copyFullRuns = RunByRun_<CopyRun_<false>>,
+    .blendFullRuns = RunByRun_<BlendRun_<false>>,
+};

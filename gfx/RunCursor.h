@@ -37,7 +37,7 @@ struct SRunCursor_ {
     }
 
     // Takes up to `wanted` (at least 1) pixels of one run and returns their number. Their bytes start at `position`;
-    // the caller calls Advance_ with that number when it has read them.
+    // when the caller has read them, it moves on by Advance_ with that number, or sets `position` itself.
     int32_t Take_(int32_t wanted)
     {
         Fetch_();
@@ -50,7 +50,7 @@ struct SRunCursor_ {
         return wanted;
     }
 
-    // How many full opaque runs follow each other here, of pixels that are all wanted; 0 within a run.
+    // How many full opaque runs start here, one behind the other, with all of their pixels wanted. 0 within a run.
     int32_t FullRuns_(int32_t wanted) const
     {
         constexpr uint8_t control = RunNormal | (SPic16Sprite_::longestRun - 1);
@@ -60,17 +60,17 @@ struct SRunCursor_ {
             ++runs;
         return runs;
     }
-
-    // Returns the number of their pixels.
+    // Moves behind that many of them and returns the number of their pixels.
     int32_t SkipFullRuns_(int32_t runs)
     {
         position += fullRunBytes * runs;
         return runs * SPic16Sprite_::longestRun;
     }
 
+    // Moves `position` over pixels of the current run.
     void Advance_(int32_t pixels) { position += BytesPerPixel_() * pixels; }
 
-    // Nothing for counts below 1.
+    // Over any number of runs. Nothing for counts below 1.
     void Skip_(int64_t pixels)
     {
         while (pixels > 0) {

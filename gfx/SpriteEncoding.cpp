@@ -14,7 +14,7 @@ RunType TypeOf_(uint8_t alpha)
 
 constexpr uint64_t levelBits = 0xF8F8F8F8F8F8F8F8;
 
-// Of eight transparent pixels all level bits are clear, of eight opaque ones all are set.
+// For the types that leave no choice of level: all level bits are clear (zero) or set (normal).
 bool AreOfType_(const uint8_t* eightAlphas, RunType type)
 {
     uint64_t eight = 0;
@@ -22,7 +22,7 @@ bool AreOfType_(const uint8_t* eightAlphas, RunType type)
     return (eight & levelBits) == (type == RunNormal ? levelBits : 0);
 }
 
-// Without a branch for every eight pixels, since most runs of most pictures are full.
+// All 64 alphas, without a branch for every eight: most runs of most pictures are full.
 bool IsFullRun_(const uint8_t* alphas, RunType type)
 {
     bool full = true;

@@ -49,13 +49,13 @@ bool File::FetchPiece(int64_t wanted)
     pieceStart = backwards ? std::max<int64_t>(0, position + std::min(wanted, pieceBytes) - pieceBytes) : position;
     pieceLength = 0;
     ssize_t count = 0;
-    do
-        count = pread(descriptor, piece, pieceBytes, pieceStart);
-    while (count < 0 && errno == EINTR);
-    if (count < 0)
-        return false;
-    pieceLength = count;
-    return true;
+    // Some file systems give less than they are asked for.
+    do {
+        count = pread(
+            descriptor, piece + pieceLength, static_cast<size_t>(pieceBytes - pieceLength), pieceStart + pieceLength);
+        pieceLength += std::max<ssize_t>(count, 0);
+    } while (count > 0 ? !HoldsPosition() : count < 0 && errno == EINTR);
+    return count >= 0;
 }
 
 } // namespace platform

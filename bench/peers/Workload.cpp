@@ -14,6 +14,7 @@ int Scale(int channel, int level)
     return static_cast<int>(std::lround(channel * level / 31.0));
 }
 
+// Each of the two parts is rounded for itself, as this library does it. Rounding their sum can differ by 1.
 uint16_t BlendExactly(uint16_t source, uint16_t destination, int level)
 {
     const auto blend = [level](int above, int below) { return Scale(above, level) + Scale(below, 31 - level); };
