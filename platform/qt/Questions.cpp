@@ -5,6 +5,7 @@
 #include "platform/qt/QtText.h"
 
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QMenu>
@@ -92,6 +93,8 @@ std::optional<std::string> AskFile(QWidget* owner, const FileRequest& request)
     chooser->setAcceptMode(QFileDialog::AcceptOpen);
     chooser->setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     chooser->setWindowModality(Qt::ApplicationModal);
+    // The dialogs' own font would do for its captions, but not for file names: "l" and "1" look alike in it.
+    chooser->setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     // What was typed is what is taken: a list of completions, which comes late on a slow disk, would take the Return.
     for (QLineEdit* field : chooser->findChildren<QLineEdit*>())
         field->setCompleter(nullptr);
