@@ -145,7 +145,7 @@ bool SaveScreenScript(const std::string& path)
     Shell().document.FitAll(); // no position outside the canvas may reach the file
     const ScreenInfo info = DescribeScreen();
     if (const auto text = ScriptWriter::FindUnstorableText(info)) {
-        SayCannotSave(text->c_str());
+        SayCannotSave((u8"這段文字含有雙引號: "_big5 + *text).c_str());
         return false;
     }
     if (!ScriptWriter().Write(info, path)) {

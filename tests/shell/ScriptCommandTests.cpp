@@ -82,7 +82,7 @@ TEST_F(ScriptCommands, SavingThatCannotBeDoneSaysSoAndChangesNothing)
     folder.Write("old.tobrik", "old");
     Insert(103, "say \"hi\"");
     SaveAs(folder.Path() + "/old.tobrik");
-    EXPECT_EQ(LatestMessage(), "無法存檔: say \"hi\"");
+    EXPECT_EQ(LatestMessage(), "無法存檔: 這段文字含有雙引號: say \"hi\"");
     EXPECT_EQ(ReadBytes("old.tobrik"), "old");
     for (const auto& message : desktop.MessageBoxes())
         EXPECT_EQ(message.owner, shell.mainWindow);
