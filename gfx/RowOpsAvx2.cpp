@@ -124,6 +124,9 @@ template <bool mirrored> void BlendRun_(uint16_t* row, const uint8_t* data, int3
 template <bool mirrored>
 void BlendLevelsRun_(uint16_t* row, const uint8_t* data, int32_t count, const SSpritePaint_& paint)
 {
+    // Most runs of this type are the few pixels of a soft edge: nothing is set up for them.
+    if (count < blockLength)
+        return PlainOps_<mirrored>().blendLevelsRun(row, data, count, paint);
     const SRun_<mirrored, 2> run { data, count };
     const SLevelFactors_::SCombined_& factors = levelFactors.combined[paint.level];
     int32_t i = 0;
