@@ -1,5 +1,17 @@
 #include "gfx/FileR.h"
 
+#include "platform/Kernel.h"
+
+CFileR_::CFileR_()
+    : handle(INVALID_HANDLE_VALUE)
+{
+}
+
+bool CFileR_::IsOpen_() const
+{
+    return handle != INVALID_HANDLE_VALUE;
+}
+
 bool CFileR_::Open_(const char* fileName)
 {
     if (IsOpen_() || !fileName || *fileName == '\0')

@@ -1,11 +1,15 @@
 #pragma once
 
-#include "platform/Kernel.h"
+#include <cstdint>
+
+namespace platform {
+struct File;
+}
 
 // A file open for reading, at most one at a time; closed when the reader goes.
 class CFileR_ {
 public:
-    CFileR_() = default;
+    CFileR_();
     CFileR_(const CFileR_&) = delete;
     CFileR_& operator=(const CFileR_&) = delete;
     ~CFileR_() { Close_(); }
@@ -21,8 +25,8 @@ public:
     uint32_t Size_() const { return size; }
 
 private:
-    bool IsOpen_() const { return handle != INVALID_HANDLE_VALUE; }
+    bool IsOpen_() const;
 
-    HANDLE handle = INVALID_HANDLE_VALUE;
+    platform::File* handle; // INVALID_HANDLE_VALUE: none
     uint32_t size = 0;
 };

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "platform/Types.h"
-
 #include <cstdint>
 #include <memory>
+
+namespace platform {
+struct Font;
+}
 
 // Kind codes. The other codes below 15 are reserved: no operation makes such a picture, and each treats it as empty.
 enum PicKind : uint16_t { PicEmpty = 0, PicPlain = 1, PicKeyed = 2, PicSprite = 7, PicKindCount = 15 };
@@ -18,29 +20,12 @@ struct SPic16X_ {
     uint16_t width;
     uint16_t height;
 
-    // 0 for null and for empty kinds.
+    // What depends on the kind (gfx/PicOps.cpp). Sizes are 0 for null and for empty kinds.
     static uint16_t Width_(const SPic16X_* picture);
     static uint16_t Height_(const SPic16X_* picture);
 
-    // Converts the colours from 565 to 555 in place; exactly once per loaded picture.
+    // Converts the colours from 565 to 555 in place; exactly once per loaded picture, which must not be null.
     static void ConvertTo555_(SPic16X_* picture);
-    static void Delete_(SPic16X_* picture);
-
-    // The 555 colour of 0x00BBGGRR, and the way back (channels become multiples of 8).
-    static uint16_t Color16_(uint32_t value);
-    static uint32_t ColorValue_(uint16_t color555);
-
-    // Loads an uncompressed 8-bit BMP as a 565 sprite; null on any failure, with nothing left open or allocated. File
-    // names are backslash paths in code page 950. The out pointers may be null and are written only on success; the
-    // size is that of the returned block in bytes. `trim` 1 cuts the picture to its visible pixels.
-    //
-    // The alpha file must have the same dimensions; the blue of its palette colours is the opacity.
-    static SPic16X_* LoadBmpAlpha_(
-        const char* colorFileName, const char* alphaFileName, uint32_t trim, uint32_t* blockSize);
-    // One palette colour, compared after reduction to 16 bits, is transparent.
-    static SPic16X_* LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t keyGreen, uint8_t keyBlue, uint32_t trim,
-        uint32_t* blockSize, uint16_t* left, uint16_t* top);
-
     // Draws the w by h rectangle at (sourceX, sourceY) of the picture, as it looks after mirroring (flags bit 0) and
     // flipping (bit 1), at (destinationX, destinationY) of a 555 buffer whose rows are `pitch` bytes apart. Alpha 0 to
     // 7 draws nothing, 248 to 255 is opaque. Clips and checks nothing: w and h are at least 1 and both rectangles lie
@@ -48,18 +33,38 @@ struct SPic16X_ {
     static void Draw_(const SPic16X_* picture, uint16_t* destination, int32_t pitch, int32_t destinationX,
         int32_t destinationY, int32_t sourceX, int32_t sourceY, int32_t w, int32_t h, uint8_t alpha, uint8_t flags);
 
-    // The hit mask of a sprite: one bit a pixel, least significant first, rows padded to whole bytes, set where the
-    // pixel's level is at least `threshold` (0 to 31; opaque pixels have 31).
-    static uint32_t MaskSize_(const SPic16X_* picture);
+    static void Delete_(SPic16X_* picture); // ignores null
+
+    // The 555 colour of 0x00BBGGRR, and the way back (channels become multiples of 8).
+    static uint16_t Color16_(uint32_t value);
+    static uint32_t ColorValue_(uint16_t color555);
+
+    // Loads an uncompressed 8-bit BMP as a 565 sprite (gfx/BmpLoading.cpp); null on any failure, with nothing left open
+    // or allocated. File names are backslash paths in code page 950. The out pointers may be null and are written only
+    // on success; the size is that of the returned block in bytes. `trim` 1 cuts the picture to its visible pixels.
+    //
+    // The alpha file must have the same dimensions; the blue of its palette colours is the opacity.
+    static SPic16X_* LoadBmpAlpha_(
+        const char* colorFileName, const char* alphaFileName, uint32_t trim, uint32_t* blockSize);
+    // One palette colour, compared after reduction to 16 bits, is transparent. `left` and `top` are the columns and
+    // rows that were cut off before the first one kept, 0 without trimming.
+    static SPic16X_* LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t keyGreen, uint8_t keyBlue, uint32_t trim,
+        uint32_t* blockSize, uint16_t* left, uint16_t* top);
+
+    // The hit mask of a sprite (gfx/HitMask.cpp): one bit a pixel, least significant first, rows padded to whole bytes,
+    // set where the pixel's level is at least `threshold` (0 to 31; opaque pixels have 31).
+    static uint32_t MaskSize_(const SPic16X_* picture); // in bytes
+    // Fills a mask of MaskSize_ bytes. The picture must be a sprite; answers 1.
     static uint32_t MakeMask_(const SPic16X_* sprite, uint8_t* mask, uint8_t threshold);
+    // `width` is that of the sprite; x and y must lie inside it.
     static bool MaskBit_(const uint8_t* mask, uint16_t width, uint16_t x, uint16_t y);
 
-    // Renders one line of text (code page 950) with the font (null: the device's default) in a 555 colour on a 555
-    // background. `keyed` not 0: a kind-2 picture whose key is the background, else a kind-1 picture. `spacing` extra
-    // pixels follow every character. The width is rounded up to a multiple of 4. Null on any failure, empty text
-    // included.
+    // Renders one line of text (gfx/TextPicture.cpp; code page 950) with the font (null: the device's default) in a 555
+    // colour on a 555 background. `keyed` not 0: a kind-2 picture whose key is the background, else a kind-1 picture.
+    // `spacing` extra pixels follow every character. The width is rounded up to a multiple of 4. Null on any failure,
+    // empty text included.
     static SPic16X_* NewText_(
-        const char* text, HFONT font, uint16_t color, uint16_t background, uint32_t keyed, int32_t spacing);
+        const char* text, platform::Font* font, uint16_t color, uint16_t background, uint32_t keyed, int32_t spacing);
 };
 
 struct SPicDeleter_ {

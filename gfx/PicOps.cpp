@@ -9,6 +9,8 @@
 
 namespace {
 
+enum DrawFlag : uint8_t { DrawMirrored = 1, DrawFlipped = 2 };
+
 void ConvertNothing_(SPic16X_*) { }
 void DrawNothing_(const SPic16X_*, const SDrawTask_&) { }
 uint16_t MeasureNothing_(const SPic16X_*)
@@ -44,6 +46,11 @@ uint16_t HeightField_(const SPic16X_* picture)
     return picture->height;
 }
 
+bool HasOps_(const SPic16X_* picture)
+{
+    return picture->kind < PicKindCount;
+}
+
 // Every kind is empty until it says otherwise.
 constexpr SPicOps_ MakeTable_()
 {
@@ -70,3 +77,42 @@ constexpr SPicOps_ MakeTable_()
 } // namespace
 
 constinit const SPicOps_ SPicOps_::table = MakeTable_();
+
+uint16_t SPic16X_::Width_(const SPic16X_* picture)
+{
+    return picture && HasOps_(picture) ? SPicOps_::table.width[picture->kind](picture) : uint16_t { 0 };
+}
+
+uint16_t SPic16X_::Height_(const SPic16X_* picture)
+{
+    return picture && HasOps_(picture) ? SPicOps_::table.height[picture->kind](picture) : uint16_t { 0 };
+}
+
+void SPic16X_::ConvertTo555_(SPic16X_* picture)
+{
+    if (HasOps_(picture))
+        SPicOps_::table.convertTo555[picture->kind](picture);
+}
+
+void SPic16X_::Draw_(const SPic16X_* picture, uint16_t* destination, int32_t pitch, int32_t destinationX,
+    int32_t destinationY, int32_t sourceX, int32_t sourceY, int32_t w, int32_t h, uint8_t alpha, uint8_t flags)
+{
+    const auto level = static_cast<uint8_t>(alpha >> 3);
+    if (!HasOps_(picture) || level == 0 || w < 1 || h < 1)
+        return;
+    const bool mirrored = (flags & DrawMirrored) != 0;
+    const bool flipped = (flags & DrawFlipped) != 0;
+    const ptrdiff_t startRow = ptrdiff_t { destinationY } + (flipped ? h - 1 : 0);
+    char* rowStart = reinterpret_cast<char*>(destination) + pitch * startRow;
+    const SDrawTask_ task {
+        .firstRow = flipped ? picture->height - sourceY - h : sourceY,
+        .firstColumn = mirrored ? picture->width - sourceX - w : sourceX,
+        .width = w,
+        .height = h,
+        .destination = reinterpret_cast<uint16_t*>(rowStart) + destinationX,
+        .rowStep = flipped ? -ptrdiff_t { pitch } : pitch,
+        .level = level,
+        .mirrored = mirrored,
+    };
+    SPicOps_::table.draw[picture->kind](picture, task);
+}

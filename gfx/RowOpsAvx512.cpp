@@ -61,11 +61,11 @@ private:
 };
 
 // Blends 32 colours over 32 others by one level.
-struct CBlend_ {
+struct SBlend32_ {
     CScale_ ofSource;
     CScale_ ofTarget;
 
-    explicit CBlend_(int level)
+    explicit SBlend32_(int level)
         : ofSource(level)
         , ofTarget(31 - level)
     {
@@ -387,7 +387,7 @@ void CopyRow_(uint16_t* row, const uint16_t* colors, ptrdiff_t count, const SRow
 
 template <bool mirrored> void BlendRow_(uint16_t* row, const uint16_t* colors, ptrdiff_t count, const SRowPaint_& paint)
 {
-    const CBlend_ blend(paint.level);
+    const SBlend32_ blend(paint.level);
     ForEachBlock_<mirrored>(
         row, colors, count, [&](const SBlock_& block) { block.Store_(blend(block.colors, block.Target_())); });
 }
@@ -403,7 +403,7 @@ void CopyKeyedRow_(uint16_t* row, const uint16_t* colors, ptrdiff_t count, const
 template <bool mirrored>
 void BlendKeyedRow_(uint16_t* row, const uint16_t* colors, ptrdiff_t count, const SRowPaint_& paint)
 {
-    const CBlend_ blend(paint.level);
+    const SBlend32_ blend(paint.level);
     const __m512i keys = _mm512_set1_epi16(static_cast<int16_t>(paint.key));
     ForEachBlock_<mirrored>(row, colors, count,
         [&](const SBlock_& block) { block.StoreUnlessKey_(blend(block.colors, block.Target_()), keys); });

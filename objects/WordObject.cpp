@@ -19,7 +19,7 @@ WordFont::WordFont()
 {
 }
 
-void WordFont::Deleter::operator()(HFONT handle) const
+void WordFont::Deleter::operator()(platform::Font* handle) const
 {
     DeleteObject(handle);
 }

@@ -3,7 +3,6 @@
 #include "gfx/Pic16X.h"
 #include "objects/Loaded.h"
 #include "objects/PictureObject.h"
-#include "platform/Types.h"
 
 #include <cstdint>
 #include <memory>
@@ -13,11 +12,11 @@
 class WordFont {
 public:
     WordFont();
-    HFONT Get() const { return font.get(); }
+    platform::Font* Get() const { return font.get(); }
 
 private:
     struct Deleter {
-        void operator()(HFONT handle) const;
+        void operator()(platform::Font* handle) const;
     };
     std::unique_ptr<platform::Font, Deleter> font;
 };
@@ -37,7 +36,7 @@ public:
     // 555 colours of the letters and of the background, which is transparent.
     uint16_t GetTextColor() const { return textColor; }
     uint16_t GetKeyColor() const { return keyColor; }
-    HFONT GetFont() const { return font->Get(); }
+    platform::Font* GetFont() const { return font->Get(); }
 
     bool HitTest(vec point, vec screen) override;
     void Reset() override;
