@@ -5,7 +5,8 @@
 #include <cmath>
 #include <vector>
 
-// An old map on a leather desk. Text is blue and outlines are red, so the sheet stays pale and its ink faint.
+// An old map on a leather desk. Text is blue and outlines are red, so the sheet stays pale and its ink faint. New words
+// appear in the upper left corner: there the sheet reaches out of the picture.
 namespace artwork {
 
 namespace {
@@ -13,7 +14,15 @@ namespace {
 constexpr int width = 800;
 constexpr int height = 600;
 constexpr float sheetMargin = 17;
+constexpr float outside = 110; // how far the sheet reaches out at its upper left corner
 constexpr float seaLevel = 0.5F;
+
+// From 0 at and before `from` to 1 at and behind `to`, without a corner.
+float SmoothStep(float from, float to, float at)
+{
+    const float share = std::clamp((at - from) / (to - from), 0.0F, 1.0F);
+    return share * share * (3 - 2 * share);
+}
 
 // How far a point lies inside the sheet's torn edge, in pixels.
 float InsideSheet(int x, int y)
@@ -21,7 +30,15 @@ float InsideSheet(int x, int y)
     const auto fx = static_cast<float>(x);
     const auto fy = static_cast<float>(y);
     const float tear = (Terrain(fx / 30, fy / 30, 4, 7) - 0.5F) * 11;
-    return std::min({ fx, fy, width - 1 - fx, height - 1 - fy }) - sheetMargin + tear;
+    const float above = fy + outside * (1 - SmoothStep(310, 470, fx));
+    const float before = fx + outside * (1 - SmoothStep(60, 220, fy));
+    return std::min({ before, above, width - 1 - fx, height - 1 - fy }) - sheetMargin + tear;
+}
+
+// How far a point lies from the nearest side of the picture, in pixels.
+int FromSide(int x, int y)
+{
+    return std::min({ x, y, width - 1 - x, height - 1 - y });
 }
 
 QColor Leather(int x, int y)
@@ -79,7 +96,7 @@ void PaintSheet(QImage& image, const std::vector<float>& heights)
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const float inside = InsideSheet(x, y);
-            const double faded = std::clamp((inside - 24) / 16.0, 0.0, 1.0);
+            const double faded = std::clamp((FromSide(x, y) - 41) / 16.0, 0.0, 1.0);
             QColor colour = Leather(x, y);
             if (inside > 0)
                 colour = Mix(
@@ -199,7 +216,7 @@ QImage PaintBackground()
     DrawMountains(painter, heights);
     DrawCompassRose(painter, { 664, 470 }, 62);
     DrawDegrees(painter);
-    for (int corner = 0; corner < 4; ++corner) {
+    for (int corner = 1; corner < 4; ++corner) {
         painter.resetTransform();
         painter.translate(corner % 2 * width, corner / 2 * height);
         painter.scale(corner % 2 ? -1 : 1, corner / 2 ? -1 : 1);

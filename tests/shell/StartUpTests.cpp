@@ -1,9 +1,12 @@
 #include "platform/User.h"
 #include "resources/ProgramResources.h"
+#include "shell/FramePresentation.h"
 #include "shell/MainLoop.h"
 #include "shell/StartUp.h"
 #include "tests/shell/EditorTest.h"
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 namespace {
@@ -30,6 +33,27 @@ TEST_F(StartingUp, PutsAThousandBySixHundredPixelsInTheMiddleOfTheDisplay)
         std::filesystem::remove("Image/Basic_background.bmp"); // it can be done without
     }
     EXPECT_EQ(LatestMessage(), "");
+}
+
+// The luminance of a colour 0x00RRGGBB, 0 to 1.
+double Luminance(uint32_t colour)
+{
+    const auto light = [&](int shift) { return std::pow((colour >> shift & 0xFF) / 255.0, 2.2); };
+    return 0.2126 * light(16) + 0.7152 * light(8) + 0.0722 * light(0);
+}
+
+TEST_F(StartingUp, ShowsABackgroundOnWhichANewWordCanBeRead)
+{
+    std::filesystem::copy_file(SAMPLE_WORKSPACE "/Image/Basic_background.bmp", "Image/Basic_background.bmp",
+        std::filesystem::copy_options::overwrite_existing);
+    ASSERT_TRUE(StartUp(&ProgramResources(), SW_SHOWNORMAL));
+    PresentFrame();
+    EXPECT_NE(desktop.Pixel(799, 300), desktop.Pixel(400, 300)); // leather and paper: it is there
+    double darkest = 1;
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 300; ++x)
+            darkest = std::min(darkest, Luminance(desktop.Pixel(x, y)));
+    EXPECT_GE((darkest + 0.05) / (Luminance(0x0000FF) + 0.05), 5);
 }
 
 class MainLoop : public EditorTest { };
