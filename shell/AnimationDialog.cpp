@@ -26,19 +26,17 @@ void OnInit(HWND dialog)
 }
 
 // Without a selected entry (-1) the count asked for is 0, which the animation raises to 1.
-void Confirm(HWND dialog, AnimationObject& animation)
+bool TakeProperties(HWND dialog, AnimationObject& animation)
 {
     animation.SetSections(SelectedItem(dialog, AnimationSectionList) + fewestSections);
     animation.SetInterval(static_cast<float>(DecimalValue(GetFieldText(dialog, AnimationIntervalField))));
+    return true;
 }
 
 void OnCommand(HWND dialog, int id)
 {
-    if (id != ConfirmButton)
-        return;
-    if (AnimationObject* animation = edited.Get())
-        Confirm(dialog, *animation);
-    edited.Close(dialog);
+    if (id == ConfirmButton)
+        edited.Confirm(dialog, TakeProperties);
 }
 
 } // namespace

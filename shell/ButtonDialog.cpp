@@ -26,19 +26,17 @@ void OnInit(HWND dialog)
 }
 
 // Without a selected entry (-1) the button takes one section less than the list offers.
-void Confirm(HWND dialog, ButtonObject& button)
+bool TakeProperties(HWND dialog, ButtonObject& button)
 {
     button.SetSections(SelectedItem(dialog, ButtonSectionList) + fewestSections);
     button.SetBoundaryCheck(IsTicked(dialog, ButtonBoundaryCheck));
+    return true;
 }
 
 void OnCommand(HWND dialog, int id)
 {
-    if (id != ConfirmButton)
-        return;
-    if (ButtonObject* button = edited.Get())
-        Confirm(dialog, *button);
-    edited.Close(dialog);
+    if (id == ConfirmButton)
+        edited.Confirm(dialog, TakeProperties);
 }
 
 } // namespace

@@ -15,3 +15,5 @@ constexpr WORD CommandSaveScriptAs = 111;
 
 // Creates the nine buttons as children of the window.
 void CreateCommandButtons(HWND window);
+// Carries the command of a button out; other ids do nothing.
+void RunButtonCommand(WORD id);

@@ -71,6 +71,7 @@ void EditCheckBoxProperties()
         EditProperties("CheckboxProp", CheckBoxDialogProc);
 }
 
+// Nothing is drawn anew afterwards: the next idle frame shows the choices.
 void EditSelectboxChoices()
 {
     if (FindContextObject())
@@ -88,6 +89,16 @@ void MoveToEnd(bool down)
     const int32_t steps = down ? object->GetLayer() : document.GetLayerCount() - object->GetLayer();
     for (int32_t i = 0; i < steps; ++i)
         document.MoveLayer(index, down);
+}
+
+void MoveToBottom()
+{
+    MoveToEnd(true);
+}
+
+void MoveToTop()
+{
+    MoveToEnd(false);
 }
 
 AnimationObject* AnimationAtContextPoint()
@@ -142,38 +153,22 @@ void ShowContextMenu(ObjectKind kind, vec point)
 
 void RunContextMenuCommand(WORD id)
 {
-    switch (id) {
-    case MenuObjectProperties:
-        EditObjectProperties();
-        break;
-    case MenuToBottom:
-        MoveToEnd(true);
-        break;
-    case MenuToTop:
-        MoveToEnd(false);
-        break;
-    case MenuPlay:
-        PlayAnimation();
-        break;
-    case MenuPause:
-        PauseAnimation();
-        break;
-    case MenuRestart:
-        RestartAnimation();
-        break;
-    case MenuAnimationProperties:
-        EditAnimationProperties();
-        break;
-    case MenuToggleCheckBox:
-        ToggleCheckBoxEnabled();
-        break;
-    case MenuCheckBoxProperties:
-        EditCheckBoxProperties();
-        break;
-    case MenuSelectboxChoices:
-        EditSelectboxChoices();
-        break;
-    default:
-        break;
-    }
+    constexpr struct {
+        WORD id;
+        void (*run)();
+    } commands[] = {
+        { MenuObjectProperties, EditObjectProperties },
+        { MenuToBottom, MoveToBottom },
+        { MenuToTop, MoveToTop },
+        { MenuPlay, PlayAnimation },
+        { MenuPause, PauseAnimation },
+        { MenuRestart, RestartAnimation },
+        { MenuAnimationProperties, EditAnimationProperties },
+        { MenuToggleCheckBox, ToggleCheckBoxEnabled },
+        { MenuCheckBoxProperties, EditCheckBoxProperties },
+        { MenuSelectboxChoices, EditSelectboxChoices },
+    };
+    for (const auto& command : commands)
+        if (command.id == id)
+            return command.run();
 }

@@ -26,6 +26,15 @@ public:
         return nullptr;
     }
 
+    // The dialog's confirm button: `take(dialog, object)` writes into the object, if it is still there, and answers
+    // whether the dialog is done.
+    void Confirm(HWND dialog, bool (*take)(HWND, Kind&))
+    {
+        Kind* found = Get();
+        if (!found || take(dialog, *found))
+            Close(dialog);
+    }
+
     // Every property dialog ends with 1.
     void Close(HWND dialog)
     {

@@ -59,11 +59,10 @@ public:
     void ClearSelection() { selection.clear(); }
 
     // The status panel is drawn once the window is known and the origin is not (0, 0).
-    HWND GetWindow() const { return window; }
     void SetWindow(HWND mainWindow) { window = mainWindow; }
     void SetPanelOrigin(vec origin) { panelOrigin = origin; }
     int32_t GetMargin() const { return margin; }
-    // Draws pointer, layer total and current object on the window. False when it was skipped.
+    // Draws pointer, layer total and current object on the window (shell/StatusPanel.cpp). False when it was skipped.
     bool DrawStatusPanel() const;
 
     // Back to an empty screen; flags, window and panel stay as they are.

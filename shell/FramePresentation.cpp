@@ -5,6 +5,8 @@
 
 namespace {
 
+// 555 pixels, top row first. The resolution, in pixels per metre, means nothing for a window; it is handed over all the
+// same.
 const BITMAPINFO frameFormat { .bmiHeader {
     .biWidth = ScreenWidth,
     .biHeight = -ScreenHeight,

@@ -6,7 +6,6 @@
 #include "shell/FramePresentation.h"
 #include "shell/KeyEditing.h"
 #include "shell/MouseEditing.h"
-#include "shell/ObjectCommands.h"
 #include "shell/ScriptCommands.h"
 #include "shell/ShellContext.h"
 
@@ -21,8 +20,7 @@ void OnCreate(HWND window)
 // Each group of handlers takes the ids that are its own and leaves the others alone.
 void OnCommand(WORD id)
 {
-    RunObjectCommand(id);
-    RunScriptCommand(id);
+    RunButtonCommand(id);
     RunContextMenuCommand(id);
     SetFocus(Shell().mainWindow);
 }

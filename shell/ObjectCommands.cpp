@@ -6,7 +6,6 @@
 #include "objects/SelectboxObject.h"
 #include "platform/Big5Literal.h"
 #include "platform/User.h"
-#include "shell/CommandButtons.h"
 #include "shell/FileDialogs.h"
 #include "shell/ShellContext.h"
 #include "shell/WordDialogs.h"
@@ -20,49 +19,17 @@ void RefreshObjectCount()
     Shell().editing.SetObjectCount(Shell().document.GetLayerCount());
 }
 
-bool AskForPicture(PathBuffer& path)
-{
-    return OpenImageFileDialog(path) && CheckIsNoAlphaFile(path);
-}
-
-// A picture that cannot be loaded is added all the same; it draws nothing.
-void LoadPicture()
+// Asks for a picture file and puts an object that shows it on top.
+template <class Kind> void LoadFromFile(PictureMode mode, void (ScreenDocument::*add)(std::unique_ptr<Kind>))
 {
     PathBuffer path;
-    if (!AskForPicture(path))
+    if (!OpenImageFileDialog(path) || !CheckIsNoAlphaFile(path))
         return;
-    auto picture = std::make_unique<PictureObject>();
-    picture->SetMode(ModeMoving);
-    picture->SetFileName(path);
-    static_cast<void>(picture->Load());
-    Shell().document.AddPicture(std::move(picture));
-    RefreshObjectCount();
-}
-
-void LoadButton()
-{
-    PathBuffer path;
-    if (!AskForPicture(path))
-        return;
-    auto button = std::make_unique<ButtonObject>();
-    button->SetMode(ModeButton);
-    button->SetFileName(path);
-    button->SetBoundaryCheck(true);
-    static_cast<void>(button->Load());
-    Shell().document.AddButton(std::move(button));
-    RefreshObjectCount();
-}
-
-void LoadAnimation()
-{
-    PathBuffer path;
-    if (!AskForPicture(path))
-        return;
-    auto animation = std::make_unique<AnimationObject>();
-    animation->SetMode(ModeAnimation);
-    animation->SetFileName(path);
-    static_cast<void>(animation->Load());
-    Shell().document.AddAnimation(std::move(animation));
+    auto object = std::make_unique<Kind>();
+    object->SetMode(mode);
+    object->SetFileName(path);
+    static_cast<void>(object->Load());
+    (Shell().document.*add)(std::move(object));
     RefreshObjectCount();
 }
 
@@ -70,6 +37,33 @@ void InsertFromWordDialog(DLGPROC procedure)
 {
     DialogBoxParamA(Shell().instance, "WordObjectAddition", Shell().mainWindow, procedure, 0);
     RefreshObjectCount();
+}
+
+} // namespace
+
+void LoadPicture()
+{
+    LoadFromFile(ModeMoving, &ScreenDocument::AddPicture);
+}
+
+void LoadButton()
+{
+    LoadFromFile(ModeButton, &ScreenDocument::AddButton);
+}
+
+void LoadAnimation()
+{
+    LoadFromFile(ModeAnimation, &ScreenDocument::AddAnimation);
+}
+
+void InsertWord()
+{
+    InsertFromWordDialog(AddWordDialogProc);
+}
+
+void InsertCheckBox()
+{
+    InsertFromWordDialog(AddCheckBoxDialogProc);
 }
 
 void InsertSelectbox()
@@ -87,35 +81,4 @@ void StartNewScreen()
 {
     Shell().document.Clear();
     Shell().editing.Reset();
-}
-
-} // namespace
-
-void RunObjectCommand(WORD id)
-{
-    switch (id) {
-    case CommandLoadPicture:
-        LoadPicture();
-        break;
-    case CommandLoadButton:
-        LoadButton();
-        break;
-    case CommandLoadAnimation:
-        LoadAnimation();
-        break;
-    case CommandInsertWord:
-        InsertFromWordDialog(AddWordDialogProc);
-        break;
-    case CommandInsertCheckBox:
-        InsertFromWordDialog(AddCheckBoxDialogProc);
-        break;
-    case CommandInsertSelectbox:
-        InsertSelectbox();
-        break;
-    case CommandNew:
-        StartNewScreen();
-        break;
-    default:
-        break;
-    }
 }

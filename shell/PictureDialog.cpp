@@ -78,7 +78,7 @@ std::optional<uint32_t> ReadAlpha(HWND dialog)
 }
 
 // Mode and effect are taken over even when the alpha is then refused and the dialog stays open.
-void Confirm(HWND dialog, PictureObject& picture)
+bool TakeProperties(HWND dialog, PictureObject& picture)
 {
     const int mode = SelectedItem(dialog, PictureModeList);
     if (mode >= 0)
@@ -91,21 +91,17 @@ void Confirm(HWND dialog, PictureObject& picture)
     const std::optional<uint32_t> alpha = ReadAlpha(dialog);
     if (!alpha) {
         SetFieldNumber(dialog, PictureAlphaField, oldAlpha);
-        return;
+        return false;
     }
     picture.SetAlpha(*alpha);
     picture.SetBoundaryCheck(IsTicked(dialog, PictureBoundaryCheck));
-    edited.Close(dialog);
+    return true;
 }
 
 void OnCommand(HWND dialog, int id)
 {
-    if (id != ConfirmButton)
-        return;
-    if (PictureObject* picture = edited.Get())
-        Confirm(dialog, *picture);
-    else
-        edited.Close(dialog);
+    if (id == ConfirmButton)
+        edited.Confirm(dialog, TakeProperties);
 }
 
 } // namespace

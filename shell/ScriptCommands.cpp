@@ -13,10 +13,9 @@
 #include "script/ScriptParser.h"
 #include "script/ScriptTokenizer.h"
 #include "script/ScriptWriter.h"
-#include "shell/CommandButtons.h"
 #include "shell/FileDialogs.h"
-#include "shell/MainWindow.h"
 #include "shell/ShellContext.h"
+#include "shell/WindowLayout.h"
 
 #include <memory>
 #include <vector>
@@ -86,28 +85,20 @@ void SaveAndReload(const std::string& path)
         static_cast<void>(LoadScreenScript(path));
 }
 
-void LoadCommand()
+} // namespace
+
+void LoadScript()
 {
     PathBuffer path;
     if (OpenScriptFileDialog(path) && CheckIsScriptFile(path))
         static_cast<void>(LoadScreenScript(path));
 }
 
-void SaveAsCommand()
+void SaveScriptAs()
 {
     PathBuffer path;
     if (OpenScriptFileDialog(path) && CheckIsScriptFile(path))
         SaveAndReload(path);
-}
-
-} // namespace
-
-void RunScriptCommand(WORD id)
-{
-    if (id == CommandLoadScript)
-        LoadCommand();
-    else if (id == CommandSaveScriptAs)
-        SaveAsCommand();
 }
 
 void QuickSave()
@@ -116,6 +107,7 @@ void QuickSave()
         SaveAndReload(std::string(Shell().editing.GetFileName()));
         return;
     }
+    // Whether a name was confirmed is not asked, only whether there is one: cancelling leaves none.
     PathBuffer path;
     static_cast<void>(OpenScriptFileDialog(path));
     if (path[0] != '\0' && CheckIsScriptFile(path))

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "platform/Types.h"
-
 #include <string>
 
-// Runs the commands that load and save the screen script; other ids do nothing.
-void RunScriptCommand(WORD id);
+// The commands that load and save the screen script. Each asks for the file; a save is read back at once.
+void LoadScript();
+void SaveScriptAs();
 // Saves under the current file name, or asks for one where there is none yet.
 void QuickSave();
 

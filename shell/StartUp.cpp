@@ -7,6 +7,7 @@
 #include "resources/ProgramResources.h"
 #include "shell/MainWindow.h"
 #include "shell/ShellContext.h"
+#include "shell/WindowLayout.h"
 
 #include <algorithm>
 #include <memory>
@@ -14,7 +15,6 @@
 namespace {
 
 constexpr const char* className = "Tobrik";
-constexpr int panelTop = 400;
 
 void RegisterMainWindowClass(HINSTANCE instance)
 {
@@ -62,7 +62,7 @@ bool StartUp(HINSTANCE instance, int showState)
     RegisterMainWindowClass(instance);
     shell.mainWindow = nullptr;
     shell.menus = {};
-    shell.editing.SetPanelOrigin(vec(ScreenWidth + shell.editing.GetMargin(), panelTop));
+    shell.editing.SetPanelOrigin(vec(ScreenWidth + shell.editing.GetMargin(), PanelTop));
     AddBackground();
 
     shell.mainWindow = CreateWindowExA(0, className, u8"編輯畫面輔助器"_big5, WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU,
