@@ -1,26 +1,15 @@
 #include "objects/PictureObject.h"
 
+#include "gfx/FileR.h"
 #include "objects/CanvasDrawing.h"
-#include "platform/Path.h"
 
-#include <filesystem>
-#include <fstream>
 #include <new>
-#include <system_error>
 
 namespace {
 
 constexpr const char* pictureExtension = ".bmp";
 // Only fully opaque pixels count as hit.
 constexpr uint8_t maskThreshold = 31;
-
-// A folder can be opened, but not as a file.
-bool CanOpenFile(const std::string& name)
-{
-    const std::string path = platform::NativePath(name);
-    std::error_code unknown;
-    return !std::filesystem::is_directory(path, unknown) && std::ifstream(path, std::ios::binary).is_open();
-}
 
 } // namespace
 
@@ -42,7 +31,7 @@ bool PictureObject::LoadPicture()
     loaded->mask.reset();
 
     const std::string companion = std::string(fileName).insert(extension, 1, 'a');
-    SPicOwner_ picture(CanOpenFile(companion)
+    SPicOwner_ picture(CFileR_().Open_(companion.c_str())
             ? SPic16X_::LoadBmpAlpha_(fileName.c_str(), companion.c_str(), 0, &loaded->pictureBytes)
             : SPic16X_::LoadBmpKey_(fileName.c_str(), 0, 255, 0, 0, &loaded->pictureBytes, nullptr, nullptr));
     if (!picture || loaded->pictureBytes == 0)

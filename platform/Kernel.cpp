@@ -1,14 +1,13 @@
 #include "platform/Kernel.h"
 
 #include "platform/Desktop.h"
+#include "platform/FileReading.h"
 #include "platform/Machine.h"
-#include "platform/Path.h"
 
 #include <algorithm>
 #include <bit>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
 #include <new>
 #include <sys/stat.h>
@@ -69,27 +68,18 @@ bool IsOpen(HANDLE file)
     return file != nullptr && file != INVALID_HANDLE_VALUE;
 }
 
-// Without waiting: a pipe under the name of a picture must not stop the program.
-int OpenForReading(const std::string& path)
-{
-    return open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-}
-
 } // namespace
 
 HANDLE CreateFileA(const char* fileName, DWORD access, DWORD, const SECURITY_ATTRIBUTES*, DWORD creation, DWORD, HANDLE)
 {
     if (!fileName || access != GENERIC_READ || creation != OPEN_EXISTING)
         return INVALID_HANDLE_VALUE;
-    // Most names are spelled as their files are: then nothing has to be looked for.
-    int descriptor = OpenForReading(platform::ExactNativePath(fileName));
-    if (descriptor < 0)
-        descriptor = OpenForReading(platform::NativePath(fileName));
+    const int descriptor = platform::OpenForReading(fileName);
     if (descriptor < 0)
         return INVALID_HANDLE_VALUE;
     struct stat status { };
     std::unique_ptr<platform::File> file;
-    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
+    if (fstat(descriptor, &status) == 0)
         file.reset(new (std::nothrow) platform::File(descriptor, status.st_size));
     if (!file) {
         close(descriptor);

@@ -17,7 +17,7 @@ extern const HANDLE INVALID_HANDLE_VALUE;
 struct SECURITY_ATTRIBUTES;
 
 // Opens an existing file for reading; the only use the editor makes of it. `fileName` is a backslash path in code page
-// 950. Folders are refused. Returns INVALID_HANDLE_VALUE on failure.
+// 950. Only ordinary files are opened. Returns INVALID_HANDLE_VALUE on failure.
 HANDLE CreateFileA(const char* fileName, DWORD access, DWORD shareMode, const SECURITY_ATTRIBUTES* security,
     DWORD creation, DWORD attributes, HANDLE templateFile);
 // The length in bytes, INVALID_FILE_SIZE when it cannot be told or does not fit in 32 bits.

@@ -1,10 +1,10 @@
 #include "script/ScriptTokenizer.h"
 
+#include "platform/FileReading.h"
 #include "platform/Kernel.h"
-#include "platform/Path.h"
 
 #include <algorithm>
-#include <fstream>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -79,20 +79,6 @@ TokenType TypeOfNumber(std::string_view text)
     return IsOneOf('.', text) ? TokenType::Real : TokenType::Integer;
 }
 
-// A folder opens like a file and then fails to read.
-bool ReadFileBytes(const std::string& nativePath, std::string& bytes)
-{
-    constexpr size_t chunk = 1 << 20;
-    std::ifstream file(nativePath, std::ios::binary);
-    while (file) {
-        const size_t used = bytes.size();
-        bytes.resize(used + chunk);
-        file.read(bytes.data() + used, chunk);
-        bytes.resize(used + static_cast<size_t>(file.gcount()));
-    }
-    return file.eof() && !file.bad();
-}
-
 void JoinLineEnds(std::string& text)
 {
     size_t kept = 0;
@@ -108,8 +94,9 @@ void JoinLineEnds(std::string& text)
 
 bool ScriptTokenizer::Tokenize(const std::string& path)
 {
-    std::string script;
-    return ReadFileBytes(platform::NativePath(path), script) && TokenizeText(std::move(script));
+    constexpr size_t largestScript = size_t { 64 } << 20;
+    std::optional<std::string> script = platform::ReadFileContent(path, largestScript);
+    return script && TokenizeText(*std::move(script));
 }
 
 bool ScriptTokenizer::TokenizeText(std::string script)

@@ -1,6 +1,7 @@
 #include "objects/PictureObject.h"
 #include "tests/objects/ObjectTest.h"
 
+#include <sys/stat.h>
 #include <tuple>
 
 class PictureObjectTest : public ObjectTest {
@@ -21,7 +22,7 @@ protected:
 
 TEST_F(PictureObjectTest, TakesPureGreenAsTransparentUnlessThereIsACompanion)
 {
-    std::filesystem::create_directory("logoa.bmp"); // no companion
+    ASSERT_EQ(mkfifo("logoa.bmp", 0600), 0); // no companion
     ASSERT_TRUE(Load(picture, "logo.bmp") && Draw(picture));
     EXPECT_EQ(Count(red), 43);
     EXPECT_EQ(Count(untouched), std::ssize(canvas) - 43);
