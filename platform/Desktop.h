@@ -50,9 +50,9 @@ public:
     virtual SIZE DisplaySize() = 0;
     virtual bool IsKeyDown(int virtualKey) = 0;
 
-    // Lets the user's input in; with `wait`, sleeps until there is some. Never called from inside itself except by a
-    // modal loop.
-    virtual void Pump(bool wait) = 0;
+    // Lets one piece of the user's input in; with `wait`, sleeps until there may be some. False when nothing was left
+    // to let in. Never called from inside itself except by a modal loop.
+    virtual bool Pump(bool wait) = 0;
 
     // Modal questions; they return when the user has answered. Texts are code page 950.
     virtual int ShowMessageBox(Window* owner, std::string_view text, std::string_view caption) = 0;

@@ -12,6 +12,10 @@
 
 namespace {
 
+// What the user does can be sent without a message to take. A stream of it that does not end (a window that is dragged
+// about faster than it is redrawn) must not keep the caller for ever: after this much, nothing counts as waiting.
+constexpr int maxSentInARow = 1000;
+
 struct QueueState {
     std::deque<MSG> messages;
     std::optional<int> quitCode; // a quit request waits until the queue is empty
@@ -24,14 +28,16 @@ QueueState& Queue()
     return queue;
 }
 
-void LetInputIn(bool wait)
+// False when there was none.
+bool LetInputIn(bool wait)
 {
     platform::Desktop* desktop = platform::InstalledDesktop();
     if (!desktop || Queue().pumping)
-        return;
+        return false;
     Queue().pumping = true;
-    desktop->Pump(wait);
+    const bool anyCame = desktop->Pump(wait);
     Queue().pumping = false;
+    return anyCame;
 }
 
 void DeliverErases()
@@ -116,10 +122,8 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
         return FALSE;
     DeliverErases();
     // What is queued was done before what the user does now, and some of that is sent without queueing.
-    if (Queue().messages.empty()) {
-        LetInputIn(false);
+    for (int sent = 0; sent < maxSentInARow && Queue().messages.empty() && LetInputIn(false); ++sent)
         DeliverErases();
-    }
     if (const auto taken = TakeMessage()) {
         *message = *taken;
         return TRUE;

@@ -23,6 +23,8 @@ bool TurnMainLoop(int& exitStatus)
 {
     MSG message;
     if (!PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (Shell().quit)
+            return true; // the close box was pressed meanwhile: there is no window to show a frame on
         PresentFrame();
         Sleep(idlePauseMs);
         return true;

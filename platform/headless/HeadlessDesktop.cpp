@@ -128,14 +128,16 @@ bool HeadlessDesktop::IsKeyDown(int virtualKey)
         || (virtualKey == VK_CONTROL && (keysHeld & MK_CONTROL) != 0);
 }
 
-void HeadlessDesktop::Pump(bool)
+bool HeadlessDesktop::Pump(bool)
 {
+    const bool anyLeft = !openDialogs.empty() || !input.empty();
     if (!openDialogs.empty())
         WorkDialog();
     else if (!input.empty())
         LetNextInputIn();
     else
         CountIdlePump();
+    return anyLeft;
 }
 
 void HeadlessDesktop::WorkDialog()

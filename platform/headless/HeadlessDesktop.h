@@ -32,9 +32,10 @@ struct DebugMessage {
 // A desktop in memory, worked by a test that plays the designer. It is the installed desktop for as long as it lives;
 // with it go all windows, classes and messages.
 //
-// The designer's input is queued: one piece is let in each time that the program asks for a message, so that a piece
-// meets the program as its predecessor has left it. While a dialog is open the queue stands still and the dialog's own
-// script acts. Answers to dialogs, menus and file choosers are given in advance, in the order of their questions.
+// The designer's input is queued: one piece is let in when the program asks for a message and none is queued, so that a
+// piece meets the program as its predecessor has left it. While a dialog is open the queue stands still and the
+// dialog's own script acts. Answers to dialogs, menus and file choosers are given in advance, in the order of their
+// questions.
 //
 // What a designer would be stuck with (a dialog left open, a menu or file chooser without an answer, a press on a
 // missing button) is a problem: the question is cancelled (a dialog ends with 0), the problem is written to stderr, and
@@ -108,7 +109,7 @@ public:
     SIZE FrameSize(const Window&) override { return frameSize; }
     SIZE DisplaySize() override { return displaySize; }
     bool IsKeyDown(int virtualKey) override;
-    void Pump(bool wait) override;
+    bool Pump(bool wait) override;
     int ShowMessageBox(Window* owner, std::string_view text, std::string_view caption) override;
     uint32_t ShowMenu(Window& owner, const Menu& menu, POINT at) override;
     std::optional<std::string> ChooseFile(const FileRequest& request) override;

@@ -9,7 +9,7 @@ void InputReports::Forget(const Window& record)
         Forget(*child);
 }
 
-void InputReports::TellNext()
+bool InputReports::TellNext()
 {
     bool told = false;
     while (!told && !waiting.empty()) {
@@ -17,6 +17,7 @@ void InputReports::TellNext()
         waiting.pop_front();
         told = widgets.WidgetOf(next.target) && next.report();
     }
+    return told;
 }
 
 } // namespace platform

@@ -24,8 +24,8 @@ public:
     // Drops what concerns the window or a child of it.
     void Forget(const Window& record);
     bool Empty() const { return waiting.empty(); }
-    // Tells the first report that has something to tell.
-    void TellNext();
+    // Tells the first report that has something to tell; false when there was none.
+    bool TellNext();
 
 private:
     struct Entry {

@@ -18,6 +18,8 @@
 namespace platform {
 namespace {
 
+constexpr int longestRoundMs = 50;
+
 std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
 {
     // A canvas pixel covers a whole number of display pixels.
@@ -184,15 +186,18 @@ bool QtDesktop::IsKeyDown(int virtualKey)
     return virtualKey == VK_CONTROL && parts->state.modifiers.testFlag(Qt::ControlModifier);
 }
 
-void QtDesktop::Pump(bool wait)
+bool QtDesktop::Pump(bool wait)
 {
     ++parts->pumpDepth;
-    const bool sleep = wait && parts->state.reports.Empty();
-    QCoreApplication::processEvents(sleep ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
-    parts->state.reports.TellNext();
+    if (wait && parts->state.reports.Empty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    else // one round of the toolkit's may serve its own affairs and leave the user's for the next
+        QCoreApplication::processEvents(QEventLoop::AllEvents, longestRoundMs);
+    const bool told = parts->state.reports.TellNext();
     --parts->pumpDepth;
     if (parts->pumpDepth == 0)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return told;
 }
 
 int QtDesktop::ShowMessageBox(Window* owner, std::string_view text, std::string_view caption)

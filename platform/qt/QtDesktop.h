@@ -31,7 +31,7 @@ public:
     bool IsKeyDown(int virtualKey) override;
 
     // Reports one piece of input at most, so that the program has reacted to it before the next one is judged.
-    void Pump(bool wait) override;
+    bool Pump(bool wait) override;
 
     int ShowMessageBox(Window* owner, std::string_view text, std::string_view caption) override;
     uint32_t ShowMenu(Window& owner, const Menu& menu, POINT at) override;

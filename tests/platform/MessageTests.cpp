@@ -121,6 +121,27 @@ TEST_F(Messages, LetNoInputInBesidesTheOneThatIsHandled)
     EXPECT_EQ(Played(), (Log { "command 7", "key 46" }));
 }
 
+TEST_F(Messages, ThatAreSentKeepNobodyWaitingUnlessTheyNeverEnd)
+{
+    OpenWindow();
+    MSG next;
+    for (int i = 0; i < 100; ++i)
+        desktop.ClickButton(7);
+    EXPECT_FALSE(PeekMessageA(&next, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(TakeLog(), Log(100, "command 7"));
+
+    bool goesOn = true;
+    const std::function<void()> again = [&] {
+        if (goesOn)
+            desktop.Do(again);
+    };
+    desktop.Do(again);
+    EXPECT_FALSE(PeekMessageA(&next, nullptr, 0, 0, PM_REMOVE));
+    goesOn = false;
+    desktop.Key(VK_DELETE);
+    EXPECT_EQ(Played(), Log { "key 46" });
+}
+
 TEST_F(Messages, BringAMenusChoiceOnceTheMenuIsClosed)
 {
     HWND window = OpenWindow();

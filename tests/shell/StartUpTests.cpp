@@ -65,6 +65,15 @@ TEST_F(MainLoop, EndsWhenTheWindowIsDestroyed)
     EXPECT_EQ(desktop.MainWindow(), nullptr);
 }
 
+TEST_F(MainLoop, PresentsNothingMoreOnceTheCloseBoxWasPressed)
+{
+    desktop.CloseBox();
+    const uint32_t before = desktop.TickCount();
+    EXPECT_EQ(RunToTheEnd(), 0);
+    EXPECT_EQ(desktop.MainWindow(), nullptr);
+    EXPECT_EQ(desktop.TickCount(), before); // no pause, so no frame before it
+}
+
 TEST_F(MainLoop, TakesAQuitOrCloseRequestWithTheWindowStanding)
 {
     PostQuitMessage(16);
@@ -87,6 +96,8 @@ TEST_F(MainLoop, PresentsFramesOnlyWhenNothingElseIsToDo)
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(TurnMainLoop(status));
     EXPECT_EQ(desktop.TimesDrawn(), drawn);
+    for (int i = 0; i < 50; ++i)
+        desktop.ClickButton(104); // is sent
     EXPECT_TRUE(TurnMainLoop(status));
     EXPECT_EQ(desktop.TimesDrawn(), drawn + 2); // the panel, then the canvas
     EXPECT_EQ(desktop.TickCount(), before + 100);

@@ -99,9 +99,8 @@ QtProgram::~QtProgram()
 Log QtProgram::TakeLog()
 {
     MSG message;
-    for (int quietTurns = 0; quietTurns < 3; ++quietTurns)
-        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-            DispatchMessageA(&message);
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageA(&message);
     return std::exchange(log, {});
 }
 
