@@ -96,4 +96,18 @@ std::optional<std::string> CodePagePath(std::string_view nativePath)
     return bytes;
 }
 
+std::string DesktopPath(std::string_view codePagePath)
+{
+    if (HasDriveLetter(codePagePath))
+        codePagePath.remove_prefix(2);
+    std::string path;
+    while (!codePagePath.empty()) {
+        const auto length = static_cast<size_t>(FirstCharacter(codePagePath).length);
+        const std::string_view character = codePagePath.substr(0, length);
+        path += character == "\\" ? "/" : character;
+        codePagePath.remove_prefix(length);
+    }
+    return path;
+}
+
 } // namespace platform

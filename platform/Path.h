@@ -17,4 +17,8 @@ std::string NativePath(std::string_view codePagePath);
 // The absolute backslash path of a native one; nothing when code page 950 cannot spell it.
 std::optional<std::string> CodePagePath(std::string_view nativePath);
 
+// The path as messages show it: still code page 950, with slashes and without a drive letter, as the desktop spells it.
+// Broken characters stay.
+std::string DesktopPath(std::string_view codePagePath);
+
 } // namespace platform

@@ -58,4 +58,10 @@ TEST(CodePagePath, RefusesWhatWouldNotComeBack)
         EXPECT_FALSE(CodePagePath(name)) << name;
 }
 
+TEST(DesktopPath, TurnsSeparatorsAndNoSecondBytes)
+{
+    EXPECT_EQ(DesktopPath(u8"C:\\圖\\功能\\a/許.tobrik"_big5), u8"/圖/功能/a/許.tobrik"_big5);
+    EXPECT_EQ(DesktopPath("\\\xA4\x30\\\xA4"), "/\xA4\x30/\xA4");
+}
+
 } // namespace
