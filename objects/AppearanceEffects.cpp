@@ -84,9 +84,7 @@ void ScreenDocument::StepEffect(int32_t index)
     record->lastTick = now;
 
     if (record->step > record->steps || record->effectKind == EffectNone) {
-        object->SetEffectRunning(false);
-        object->SetPos(record->end);
-        ClipObject(*object, object->GetBoundaryCheck());
+        PutAtEnd(*object, *record);
         object->Draw(canvas.get(), pitch);
         effects.erase(record);
         return;
@@ -99,4 +97,23 @@ void ScreenDocument::StepEffect(int32_t index)
     ClipObject(*object, false);
     object->Draw(canvas.get(), pitch);
     ++record->step;
+}
+
+void ScreenDocument::FinishEffects()
+{
+    for (const EffectRecord& record : effects) {
+        ScreenObject* object = nullptr;
+        if (!GetObject(record.index, object))
+            continue;
+        object->SetSrc({ 0, 0 }); // the cut of a step half-way would stay at a position of exactly 0
+        PutAtEnd(*object, record);
+    }
+    effects.clear();
+}
+
+void ScreenDocument::PutAtEnd(ScreenObject& object, const EffectRecord& record) const
+{
+    object.SetEffectRunning(false);
+    object.SetPos(record.end);
+    ClipObject(object, object.GetBoundaryCheck());
 }

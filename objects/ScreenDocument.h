@@ -69,6 +69,8 @@ public:
     void StartEffect(int32_t index);
     // Advances the effect of an object and draws it when a step is due.
     void StepEffect(int32_t index);
+    // Ends every running effect, a fade-out too, without drawing: the objects stand where they were when it started.
+    void FinishEffects();
 
     const uint16_t* GetCanvas() const { return canvas.get(); }
     int32_t GetPitch() const { return pitch; }
@@ -79,6 +81,7 @@ public:
 private:
     void Add(std::unique_ptr<ScreenObject> object, ObjectKind kind);
     void FitObject(ScreenObject& object) const;
+    void PutAtEnd(ScreenObject& object, const EffectRecord& record) const;
     // What IndexOfLayer finds for every layer, -1 where it finds nothing; for who needs them all.
     std::vector<int32_t> IndicesByLayer() const;
 

@@ -7,6 +7,7 @@
 #include "objects/SelectboxObject.h"
 #include "objects/WordObject.h"
 #include "platform/Big5Literal.h"
+#include "platform/CurrentFolder.h"
 #include "platform/User.h"
 #include "script/ParsedScreen.h"
 #include "script/ScreenInfo.h"
@@ -79,10 +80,12 @@ void SayCannotSave(const char* text)
 }
 
 // The screen is rebuilt from the file at once, so that it shows what the file holds.
-void SaveAndReload(const std::string& path)
+bool SaveAndReload(const std::string& path)
 {
-    if (SaveScreenScript(path))
-        static_cast<void>(LoadScreenScript(path));
+    if (!SaveScreenScript(path))
+        return false;
+    static_cast<void>(LoadScreenScript(path));
+    return true;
 }
 
 } // namespace
@@ -94,24 +97,28 @@ void LoadScript()
         static_cast<void>(LoadScreenScript(path));
 }
 
+// The dialog moves the current folder, and the screen's pictures are looked for there: while nothing is saved, the
+// screen belongs to the folder of before.
 void SaveScriptAs()
 {
+    const platform::CurrentFolder before;
     PathBuffer path;
-    if (OpenScriptFileDialog(path) && CheckIsScriptFile(path))
-        SaveAndReload(path);
+    if (!OpenScriptFileDialog(path) || !CheckIsScriptFile(path) || !SaveAndReload(path))
+        before.GoBack();
 }
 
 void QuickSave()
 {
     if (Shell().editing.HasFileName()) {
-        SaveAndReload(std::string(Shell().editing.GetFileName()));
+        static_cast<void>(SaveAndReload(std::string(Shell().editing.GetFileName())));
         return;
     }
     // Whether a name was confirmed is not asked, only whether there is one: cancelling leaves none.
+    const platform::CurrentFolder before;
     PathBuffer path;
     static_cast<void>(OpenScriptFileDialog(path));
-    if (path[0] != '\0' && CheckIsScriptFile(path))
-        SaveAndReload(path);
+    if (path[0] == '\0' || !CheckIsScriptFile(path) || !SaveAndReload(path))
+        before.GoBack();
 }
 
 bool LoadScreenScript(const std::string& path)
@@ -132,9 +139,19 @@ bool LoadScreenScript(const std::string& path)
     return rebuilt;
 }
 
+void PrepareForSaving(ScreenDocument& document)
+{
+    document.FinishEffects();
+    document.FitAll();
+    constexpr uint32_t largestWritable = 0x7FFFFFFF;
+    for (const auto& object : document.GetObjects())
+        if (object->GetAlpha() > largestWritable)
+            object->SetAlpha(object->GetAlpha() & 0xFF);
+}
+
 bool SaveScreenScript(const std::string& path)
 {
-    Shell().document.FitAll(); // no position outside the canvas may reach the file
+    PrepareForSaving(Shell().document);
     const ScreenInfo info = DescribeScreen();
     if (const auto text = ScriptWriter::FindUnstorableText(info)) {
         SayCannotSave((u8"這段文字含有雙引號: "_big5 + *text).c_str());

@@ -40,13 +40,15 @@ void WorkObject(ScreenDocument& document, int32_t index)
     document.GetObjectAt(object, pos);
 }
 
-// No script gives an object a quote or, once it is fitted, a negative position: neither could be saved.
+// No script gives an object a quote or, once it is prepared, a position or alpha with a minus sign: none could be
+// saved.
 void CheckThatItCanBeSaved(ScreenDocument& document)
 {
-    document.FitAll();
+    PrepareForSaving(document);
     bool storable = !ScriptWriter::FindUnstorableText({ .objects = document.GetObjects() });
     for (const auto& object : document.GetObjects())
-        storable = storable && object->GetPos().x >= 0 && object->GetPos().y >= 0;
+        storable = storable && object->GetPos().x >= 0 && object->GetPos().y >= 0
+            && static_cast<int32_t>(object->GetAlpha()) >= 0;
     if (!storable)
         std::abort();
 }

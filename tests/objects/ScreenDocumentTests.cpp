@@ -187,4 +187,23 @@ TEST_F(ScreenDocumentTest, HidesForGoodWhatFadesOutAndKeepsRecordsWithTheirObjec
     EXPECT_TRUE(document.GetEffects().empty() && Add({ 1, 2 }).GetLayer() == 0);
 }
 
+TEST_F(ScreenDocumentTest, PutsWhatIsHalfWayBackToItsPlaceWhenEffectsAreFinished)
+{
+    Add({ 300, 100 }, EffectFromRight);
+    Add({ 0, 100 }, EffectFromLeft); // is cut at the left on its way
+    Add({ -20, 100 }, EffectFadeOut);
+    Add({ 790, 100 }, EffectFromTop).SetBoundaryCheck(true);
+    for (int32_t index = 0; index < 4; ++index)
+        document.StartEffect(index);
+    Frame(100);
+    Frame(100);
+    drawings.clear();
+    document.FinishEffects();
+    EXPECT_EQ(drawings.size(), 0U);
+    EXPECT_EQ(document.GetEffects().size(), 0U);
+    EXPECT_EQ(Frame(),
+        (Places { { { 300, 100 }, { 0, 0 }, { 50, 40 } }, { { 0, 100 }, { 0, 0 }, { 50, 40 } },
+            { { 0, 100 }, { 20, 0 }, { 30, 40 } }, { { 750, 100 }, { 0, 0 }, { 50, 40 } } }));
+}
+
 } // namespace

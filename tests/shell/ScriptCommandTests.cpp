@@ -90,6 +90,44 @@ TEST_F(ScriptCommands, SavingThatCannotBeDoneSaysSoAndChangesNothing)
     EXPECT_FALSE(shell.editing.HasFileName());
 }
 
+TEST_F(ScriptCommands, WritesAnAlphaThatWouldGetAMinusSignAsItsLowByte)
+{
+    folder.Write("a.tobrik",
+        "ZULScreen { Word { Stage 0 { WordText = \"a\" ; WordAlpha = 4294967290 ; } Stage 1 { WordText = \"b\" ; "
+        "WordAlpha = 2147483647 ; } } CheckBox { Stage 0 { CheckBoxText = \"c\" ; CheckBoxAlpha = 4294967295 ; } } }");
+    ASSERT_TRUE(LoadScreenScript("a.tobrik"));
+    QuickSave();
+    EXPECT_FALSE(shell.quit);
+    ASSERT_EQ(shell.editing.GetObjectCount(), 3);
+    EXPECT_EQ(ObjectAt(0).GetAlpha(), 250U);
+    EXPECT_EQ(ObjectAt(1).GetAlpha(), 2147483647U);
+    EXPECT_EQ(ObjectAt(2).GetAlpha(), 255U);
+}
+
+TEST_F(ScriptCommands, SaveDuringAPreviewStoresWhereTheObjectBelongs)
+{
+    AddPicture({ 300, 100 }, { 40, 30 }).SetEffect(EffectFromRight);
+    shell.document.StartEffect(0);
+    Play();
+    SaveAs(InImageFolder("screen.tobrik"));
+    EXPECT_EQ(ObjectAt(0).GetPos(), vec(300, 100));
+}
+
+TEST_F(ScriptCommands, SaveThatDoesNotTakePlaceLeavesTheCurrentFolder)
+{
+    Insert(103, "say \"hi\"");
+    std::filesystem::create_directory("elsewhere");
+    for (const char* name : { "/elsewhere/new.tobrik", "/elsewhere/new.txt" }) {
+        SaveAs(folder.Path() + name);
+        EXPECT_EQ(std::filesystem::current_path(), folder.Path()) << name;
+        desktop.AnswerFileDialog(folder.Path() + name);
+        desktop.Key('S', MK_CONTROL);
+        Play();
+        EXPECT_EQ(std::filesystem::current_path(), folder.Path()) << name;
+    }
+    EXPECT_EQ(desktop.MessageBoxes().size(), 4U);
+}
+
 TEST_F(ScriptCommands, BrokenScriptIsLoadedAsFarAsItGoesAndEndsTheEditor)
 {
     folder.Write("broken.tobrik", "ZULScreen { Word { Stage 0 { WordText = \"a\" ; } Stage 1 { WordText = ");
