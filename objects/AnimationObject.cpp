@@ -10,8 +10,9 @@ namespace {
 
 constexpr uint32_t opaque = 255;
 
-// In double precision and cut to a whole number, so that the cadence of a fractional interval is kept; the clock wraps
-// around at 2^32, whatever the interval. An endless interval leaves the tick as it is.
+// Cut to a whole number, so that a frame begins up to a millisecond early after a fractional interval; in double
+// precision, because a float cannot hold every tick. The clock wraps around at 2^32, whatever the interval. An endless
+// interval leaves the tick as it is.
 uint32_t AddToTick(uint32_t tick, float interval)
 {
     constexpr double ticksPerTurn = 4294967296.0;
@@ -79,11 +80,9 @@ bool AnimationObject::Draw(uint16_t* dest, int32_t pitch)
     if (!dest || pitch < 1 || !GetPicture())
         return false;
     KeepOnScreen();
-    // The whole frame, without the offset that fitting gave it; the canvas alone cuts it.
-    const bool sideBySide = IsSideBySide();
-    const vec first = sideBySide ? vec { frame * view.x, 0 } : vec { 0, frame * view.y };
-    const vec whole = sideBySide ? vec { view.x, size.y } : vec { size.x, view.y };
-    return DrawOnCanvas(GetPicture(), dest, pitch, pos, first, whole, alpha);
+    const vec frameSize = FrameSize();
+    const vec first = IsSideBySide() ? vec { frame * frameSize.x, 0 } : vec { 0, frame * frameSize.y };
+    return DrawOnCanvas(GetPicture(), dest, pitch, pos, first, frameSize, alpha);
 }
 
 void AnimationObject::FitFrame()
@@ -93,19 +92,28 @@ void AnimationObject::FitFrame()
         KeepOnScreen();
 }
 
+vec AnimationObject::FrameSize() const
+{
+    return IsSideBySide() ? vec { size.x / sections, size.y } : vec { size.x, size.y / sections };
+}
+
+// The other component stays as the fitting has left it.
 void AnimationObject::SetFrameView()
 {
     if (IsSideBySide())
-        view.x = size.x / sections;
+        view.x = FrameSize().x;
     else
-        view.y = size.y / sections;
+        view.y = FrameSize().y;
 }
 
+// What the fitting has left of the strip decides the place. There the frame is shown whole, without the offset of the
+// fitting: an animation is never cut at its left or top, and cut by the canvas alone at its right or bottom.
 void AnimationObject::KeepOnScreen()
 {
-    src = { std::min(src.x, size.x), std::min(src.y, size.y) };
     pos = { KeepInside(pos.x, view.x, ScreenWidth), KeepInside(pos.y, view.y, ScreenHeight) };
-    view = { std::clamp(view.x, 0, size.x), std::clamp(view.y, 0, size.y) };
+    src = { 0, 0 };
+    const vec frameSize = FrameSize();
+    view = { std::clamp(ScreenWidth - pos.x, 0, frameSize.x), std::clamp(ScreenHeight - pos.y, 0, frameSize.y) };
 }
 
 // A square strip is hit over its whole height although only its top frame is drawn.

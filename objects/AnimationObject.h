@@ -5,20 +5,21 @@
 #include <cstdint>
 
 // An animation: a strip of equal frames shown one after the other in one place. A play-through shows every frame once
-// and stops on the first. `size` is the whole strip, `view` one frame once it has been drawn.
+// and stops on the first. `size` is the whole strip; once it has been drawn, `src` is (0, 0) and `view` as much of a
+// whole frame as the canvas shows.
 class AnimationObject : public PictureObject {
 public:
-    // What GetTick tells before the first Play.
+    // What GetTick tells until the first Play, and again after a Restart or the end of a play-through.
     static constexpr uint32_t neverStarted = 0xFFFFFFFF;
 
-    // Moves on by at most one frame when its time is over, keeps the frame on the screen, and draws it whole. Pauses
-    // and clocks go on although nothing is loaded.
+    // Moves on by at most one frame when its time is over, places the frame as FitFrame does, and draws it whole but
+    // for what lies right of or below the canvas. Time goes on although nothing is loaded or there is no canvas.
     bool Draw(uint16_t* dest, int32_t pitch) override;
     bool HitTest(vec point, vec screen) override;
     void Reset() override;
 
-    // The part of Draw that places the frame: `view` becomes that of one frame, and a loaded frame is kept on the
-    // screen.
+    // The part of Draw that places the frame: wholly on the canvas, except that stacked frames are cut at its right
+    // edge and frames side by side at its bottom, where the fitting has left them. Unloaded ones stay.
     void FitFrame();
 
     // Starts, or goes on where Pause stopped. All three make the animation opaque.
@@ -41,6 +42,7 @@ public:
 private:
     bool IsSideBySide() const { return size.x > size.y; }
     void Advance();
+    vec FrameSize() const;
     void SetFrameView();
     void KeepOnScreen();
 

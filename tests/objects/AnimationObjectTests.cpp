@@ -49,25 +49,43 @@ TEST_F(AnimationObjectTest, TakesAnyNumberAsTimePerFrame)
     }
 }
 
-TEST_F(AnimationObjectTest, DrawsOneWholeFrameInsideTheScreen)
+TEST_F(AnimationObjectTest, IsHitAndOutlinedWhereItsWholeFrameIsDrawn)
 {
-    const std::tuple<vec, vec, vec, int> cases[] = { { { 400, 50 }, { 790, -20 }, { 750, 0 }, 50 * 50 },
-        { { 50, 400 }, { -20, INT32_MAX }, { 0, 550 }, 50 * 50 }, { { 8000, 650 }, { 30, 30 }, { 0, 30 }, 800 * 570 },
-        { { 40, 40 }, { 1, 2 }, { 1, 2 }, 40 * 5 } };
-    for (const auto& [strip, pos, drawnAt, pixels] : cases) {
+    const vec wide { 400, 50 };
+    const vec stacked { 50, 400 };
+    const struct {
+        vec strip, pos, drawnAt, view;
+        int32_t hitHeight;
+    } cases[] = {
+        { wide, { 790, -20 }, { 750, 0 }, { 50, 50 }, 50 },
+        { wide, { -30, 580 }, { 0, 580 }, { 50, 20 }, 50 }, // cut at the bottom alone
+        { stacked, { -30, 100 }, { 0, 100 }, { 50, 50 }, 50 },
+        { stacked, { -60, INT32_MAX }, { 0, 550 }, { 50, 50 }, 50 },
+        { stacked, { 790, -20 }, { 790, 0 }, { 10, 50 }, 50 }, // cut at the right alone
+        { { 8000, 650 }, { 30, 30 }, { 0, 30 }, { 800, 570 }, 650 }, // larger than the canvas
+        { { 40, 40 }, { -1, 2 }, { 0, 2 }, { 40, 5 }, 40 }, // drawn as a stacked one, hit over its whole height
+    };
+    const ScreenDocument document;
+    for (const auto& [strip, pos, drawnAt, view, hitHeight] : cases) {
         WriteStrip("strip.bmp", strip, 8);
         animation.Reset();
         ASSERT_TRUE(Load(animation, "strip.bmp"));
         animation.SetPos(pos);
-        animation.SetAlpha(0); // until it plays
         animation.SetInterval(0);
         animation.Play();
-        EXPECT_FALSE(animation.Draw(nullptr, 2 * ScreenWidth) || animation.GetPos() != pos); // steps, moves nothing
-        ScreenDocument().ClipObject(animation, false);
-        EXPECT_EQ(FrameAfter(0), 2);
-        EXPECT_EQ(animation.GetPos(), drawnAt);
-        EXPECT_EQ(Count(SectionColor(2)), pixels) << strip.x;
-        EXPECT_FALSE(animation.HitTest(drawnAt + vec(animation.GetView().x + 1, 0), {}));
+        EXPECT_FALSE(animation.Draw(nullptr, 2 * ScreenWidth)); // steps, moves nothing
+        EXPECT_EQ(animation.GetPos(), pos);
+        for (const int frame : { 2, 3 }) { // the second fitting changes nothing
+            document.ClipObject(animation, false);
+            EXPECT_EQ(FrameAfter(0), frame);
+            EXPECT_EQ(animation.GetPos(), drawnAt);
+            EXPECT_EQ(animation.GetSrc(), vec(0));
+            EXPECT_EQ(animation.GetView(), view);
+            EXPECT_EQ(Count(SectionColor(frame)), view.x * view.y);
+        }
+        EXPECT_TRUE(animation.PixelHit(drawnAt + view - vec(1)));
+        EXPECT_TRUE(animation.HitTest(drawnAt + vec(view.x, hitHeight), {}));
+        EXPECT_FALSE(animation.HitTest(drawnAt + vec(view.x + 1, hitHeight), {}));
+        EXPECT_FALSE(animation.HitTest(drawnAt + vec(view.x, hitHeight + 1), {}));
     }
-    EXPECT_TRUE(animation.HitTest({ 41, 42 }, {})); // a square strip is hit over its whole height
 }

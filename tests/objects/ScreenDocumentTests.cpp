@@ -95,7 +95,7 @@ TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackground
 
     const Place background { { 0, 0 }, { 0, 0 }, { 800, 600 } };
     const Places fitted { { { 0, 1 }, { 5, 0 }, { 45, 40 } }, { { 0, 2 }, { 0, 0 }, { 50, 40 } },
-        { { 750, 0 }, { 0, 20 }, { 50, 30 } } };
+        { { 750, 0 }, { 0, 0 }, { 50, 50 } } };
     const auto& objects = document.GetObjects();
     document.FitAll();
     for (size_t i = 0; i < 3; ++i)
