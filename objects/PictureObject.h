@@ -45,7 +45,8 @@ protected:
         uint32_t maskBytes = 0;
     };
 
-    // The first half of Load: reads the file and converts it to 555. False leaves the object without a picture.
+    // The first half of Load: reads the file and converts it to 555. False leaves the object as Load says; the mask is
+    // gone with the old picture.
     bool LoadPicture();
     // The last step of Load. False releases picture and mask.
     bool BuildMask();

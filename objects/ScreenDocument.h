@@ -61,8 +61,8 @@ public:
     // Fits pos, src and view of the object to the canvas: pushed back inside, or cropped at the edges.
     void ClipObject(ScreenObject& object, bool keepInside) const;
 
-    // Fits every object as the next frame will, and does nothing else that a frame does: afterwards no object lies at a
-    // negative position.
+    // Fits every object by its own rule, also one whose effect runs and that a frame would put elsewhere, and does
+    // nothing else that a frame does. Afterwards no object lies at a negative position.
     void FitAll();
 
     // Starts the object's appearance effect; nothing for EffectNone, a running effect or a missing object.

@@ -19,7 +19,8 @@ struct SelectionEntry {
 // objects by index or by borrowed pointer and owns none.
 class EditorState {
 public:
-    // Client coordinates of the latest mouse message, left press and right press; (-1, -1) before the first press.
+    // Client coordinates of the latest mouse message, left press and right press. At first the pointer is (0, 0) and
+    // both presses are (-1, -1), which says that there was none; Reset makes all three (0, 0).
     vec GetPointer() const { return pointer; }
     void SetPointer(vec point) { pointer = point; }
     vec GetPressPoint() const { return pressPoint; }
