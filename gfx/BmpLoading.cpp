@@ -139,9 +139,10 @@ SPic16X_* SPic16X_::LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t ke
     if (trim == 1)
         work.Trim_();
     SPic16X_* result = work.Finish_(blockSize);
-    if (result && left)
+    const bool isPlaced = result && result->width > 0; // An invisible picture is trimmed to nothing, nowhere.
+    if (isPlaced && left)
         *left = work.left;
-    if (result && top)
+    if (isPlaced && top)
         *top = work.top;
     return result;
 }

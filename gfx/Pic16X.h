@@ -47,7 +47,7 @@ struct SPic16X_ {
     static SPic16X_* LoadBmpAlpha_(
         const char* colorFileName, const char* alphaFileName, uint32_t trim, uint32_t* blockSize);
     // One palette colour, compared after reduction to 16 bits, is transparent. `left` and `top` are the columns and
-    // rows that were cut off before the first one kept, 0 without trimming.
+    // rows that were cut off before the first one kept, 0 without trimming; they stay unwritten when nothing is left.
     static SPic16X_* LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t keyGreen, uint8_t keyBlue, uint32_t trim,
         uint32_t* blockSize, uint16_t* left, uint16_t* top);
 

@@ -99,13 +99,14 @@ TEST_F(BmpLoading, TrimsOnRequest)
         { { "...", "..a", "...", "b.c", "..." }, { 3, 3, 0, 1 }, { 1, 0x40, 'a', 2, 0x40, 'b', 0, 0x40, 'c' } },
         { { "...a", "....", ".b.." }, { 3, 3, 1, 0 }, { 1, 0x40, 'a', 2, 0x40, 'b', 1 } },
         { { "...", "..a" }, { 1, 1, 2, 1 }, { 0x40, 'a' } },
-        { { "...", "..." }, { 0, 0, 0, 0 }, {} },
+        { { "...", "..." }, { 0, 0, 99, 99 }, {} }, // the offsets stay unwritten
     };
     for (const auto& [whole, place, trimmed] : cases) {
         BmpFile bmp(static_cast<int>(whole[0].size()), static_cast<int>(whole.size()));
         bmp.indices = PlaneOf(whole, [](char letter) { return letter; });
         bmp.palette['.'] = green;
         bmp.Write("p.bmp");
+        left = top = 99;
         EXPECT_EQ(LoadKey(255, 1), trimmed);
         ASSERT_TRUE(picture);
         EXPECT_EQ((std::vector<int> { picture->width, picture->height, left, top }), place);
