@@ -5,6 +5,8 @@
 #include "platform/WindowTable.h"
 #include "platform/headless/HeadlessDesktop.h"
 
+#include <algorithm>
+
 namespace platform {
 
 DialogDriver::DialogDriver(HeadlessDesktop& ownerDesktop, HWND openDialog)
@@ -74,6 +76,14 @@ bool DialogDriver::IsChecked(int id) const
     return control && control->checked;
 }
 
+std::string DialogDriver::Value(int id) const
+{
+    HWND control = Control(id);
+    if (control && control->kind == WindowKind::CheckBox)
+        return control->checked ? "on" : "off";
+    return Text(id);
+}
+
 void DialogDriver::SetText(int id, std::string_view text)
 {
     HWND control = Control(id);
@@ -100,6 +110,20 @@ void DialogDriver::Check(int id, bool on)
         return;
     control->checked = on;
     ButtonClicked(*control);
+}
+
+void DialogDriver::Enter(int id, const std::string& value)
+{
+    HWND control = Control(id);
+    if (!control || !control->enabled)
+        return;
+    const auto entry = std::find(control->items.begin(), control->items.end(), CodePageFromUtf8(value));
+    if (control->kind == WindowKind::CheckBox)
+        Check(id, value == "on");
+    else if (entry != control->items.end())
+        Select(id, static_cast<int>(entry - control->items.begin()));
+    else
+        SetText(id, value);
 }
 
 void DialogDriver::Press(int id)

@@ -24,12 +24,16 @@ public:
     std::vector<std::string> Items(int id) const;
     int Selection(int id) const; // -1: none
     bool IsChecked(int id) const;
+    std::string Value(int id) const; // the text, of a check box "on" or "off"
 
     // Replaces the text as typing does: digits-only fields drop what is no digit, a drop-down loses its selection,
     // what code page 950 cannot spell becomes "?".
     void SetText(int id, std::string_view text);
     void Select(int id, int index);
     void Check(int id, bool on);
+    // Makes a control show the value: chooses the entry with that text where a list has it, ticks a check box ("on") or
+    // not, types anything else. A field that only shows is left as it is.
+    void Enter(int id, const std::string& value);
     void Press(int id);
     void Key(int virtualKey); // VK_ESCAPE or VK_RETURN
     void CloseBox(); // a problem where the dialog has none

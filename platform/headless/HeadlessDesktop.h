@@ -60,7 +60,8 @@ public:
     void MoveTo(int x, int y, WPARAM keys = 0);
     void Release(int x, int y, WPARAM keys = 0);
     void Click(int x, int y, WPARAM keys = 0); // Press and Release; two of them are not a double click
-    void DoubleClick(int x, int y, WPARAM keys = 0);
+    void PressAgain(int x, int y, WPARAM keys = 0); // the second press of a double click
+    void DoubleClick(int x, int y, WPARAM keys = 0); // Click, PressAgain, Release
     void Drag(POINT from, POINT to, WPARAM keys = 0); // Press, MoveTo, Release
     void RightPress(int x, int y, WPARAM keys = 0);
     void Key(int virtualKey, WPARAM keys = 0);

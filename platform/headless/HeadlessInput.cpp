@@ -44,10 +44,15 @@ void HeadlessDesktop::Click(int x, int y, WPARAM keys)
     Release(x, y, keys);
 }
 
+void HeadlessDesktop::PressAgain(int x, int y, WPARAM keys)
+{
+    QueueMouse(WM_LBUTTONDBLCLK, x, y, keys);
+}
+
 void HeadlessDesktop::DoubleClick(int x, int y, WPARAM keys)
 {
     Click(x, y, keys);
-    QueueMouse(WM_LBUTTONDBLCLK, x, y, keys);
+    PressAgain(x, y, keys);
     Release(x, y, keys);
 }
 

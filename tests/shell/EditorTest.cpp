@@ -2,6 +2,7 @@
 
 #include "platform/User.h"
 #include "resources/ProgramResources.h"
+#include "shell/CommandButtons.h"
 #include "shell/FramePresentation.h"
 #include "shell/MainLoop.h"
 #include "shell/StartUp.h"
@@ -12,7 +13,7 @@
 EditorTest::EditorTest()
 {
     std::filesystem::create_directory("Image");
-    WritePicture("Basic_background.bmp", ScreenWidth, ScreenHeight);
+    WritePicture("Basic_background.bmp", ScreenWidth, ScreenHeight, 60);
     WritePicture("ro_chkbox.bmp", 16, 64);
     WritePicture("EditBox.bmp", 120, 20);
     WritePicture("upbutton.bmp", 10, 32);
@@ -20,9 +21,8 @@ EditorTest::EditorTest()
     std::filesystem::copy("Image", "."); // the control pictures are found from either folder
 }
 
-std::string EditorTest::WritePicture(const std::string& name, int width, int height)
+std::string EditorTest::WritePicture(const std::string& name, int width, int height, uint8_t grey)
 {
-    constexpr uint8_t grey = 150;
     const std::string path = std::filesystem::absolute(std::filesystem::exists("Image") ? "Image/" + name : name);
     BmpFile(width, height, grey).Write(path);
     return path;
@@ -48,14 +48,19 @@ void EditorTest::Choose(POINT at, uint32_t item, std::function<void(platform::Di
     Play();
 }
 
-void EditorTest::Insert(int command, const std::string& text)
+void EditorTest::Run(WORD command)
+{
+    desktop.ClickButton(command);
+    Play();
+}
+
+void EditorTest::Insert(WORD command, const std::string& text)
 {
     desktop.OnDialog([text](platform::DialogDriver& dialog) {
         dialog.SetText(WordTextField, text);
         dialog.Press(ConfirmButton);
     });
-    desktop.ClickButton(command);
-    Play();
+    Run(command);
 }
 
 int EditorTest::RunToTheEnd()
@@ -97,14 +102,13 @@ void AllKinds::SetUp()
 {
     EditorTest::SetUp();
     const std::string strip = WritePicture("strip.bmp", 320, 40);
-    for (const int command : { 100, 101, 102 }) {
+    for (const WORD command : { CommandLoadPicture, CommandLoadButton, CommandLoadAnimation }) {
         desktop.AnswerFileDialog(strip);
-        desktop.ClickButton(command);
+        Run(command);
     }
-    Insert(103, "開始遊戲");
-    Insert(105, "音樂");
-    desktop.ClickButton(106);
-    Play();
+    Insert(CommandInsertWord, "開始遊戲");
+    Insert(CommandInsertCheckBox, "音樂");
+    Run(CommandInsertSelectbox);
     for (int32_t i = 0; i < shell.document.GetObjectCount(); ++i)
         ObjectAt(i).SetPos({ 10, 10 + 80 * i });
     PresentFrame();

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-// The editor on a headless desktop, in a folder of its own with a grey background and the pictures of the built-in
+// The editor on a headless desktop, in a folder of its own with a dark background and the pictures of the built-in
 // controls, and a designer's words for looking at it.
 class EditorTest : public testing::Test {
 protected:
@@ -24,14 +24,18 @@ protected:
     void Play();
     // Presses the right button, chooses the item and works the dialog that it opens.
     void Choose(POINT at, uint32_t item, std::function<void(platform::DialogDriver&)> hands = {});
-    // Presses a command button and types the text into the dialog that it opens.
-    void Insert(int command, const std::string& text);
+    // Presses a command button; for Insert, types the text into the dialog that it opens.
+    void Run(WORD command);
+    void Insert(WORD command, const std::string& text);
     // Runs the main loop to its end and answers the exit status.
     int RunToTheEnd();
 
+    // The panel, then the canvas.
+    static constexpr int DrawingsOfAFrame = 2;
+
     // A grey picture file in the folder "Image" (or in the current one once the designer has moved into it), and an
     // object that shows such a picture.
-    std::string WritePicture(const std::string& name, int width, int height); // answers its path
+    std::string WritePicture(const std::string& name, int width, int height, uint8_t grey = 150); // answers its path
     PictureObject& AddPicture(vec pos, vec size);
 
     template <class Kind = ScreenObject> Kind& ObjectAt(int32_t index) const

@@ -1,28 +1,18 @@
 #include "objects/ButtonObject.h"
 #include "objects/SelectboxObject.h"
-#include "platform/Big5Literal.h"
+#include "platform/CodePage.h"
+#include "shell/CommandButtons.h"
 #include "tests/shell/EditorTest.h"
 
 #include <filesystem>
 
 namespace {
 
-TEST_F(AllKinds, LieOnTopOfEachOtherInTheOrderOfTheirMaking)
-{
-    const ObjectKind kinds[] = { KindPicture, KindButton, KindAnimation, KindWord, KindCheckBox, KindSelectbox };
-    ASSERT_EQ(shell.editing.GetObjectCount(), 6);
-    for (int32_t i = 0; i < 6; ++i) {
-        EXPECT_EQ(ObjectAt(i).GetKind(), kinds[i]);
-        EXPECT_EQ(ObjectAt(i).GetLayer(), i);
-    }
-    EXPECT_EQ(ObjectAt<SelectboxObject>(Selectbox).GetCount(), 5);
-    EXPECT_EQ(ObjectAt<SelectboxObject>(Selectbox).GetString(4), u8"第五個選項"_big5);
-    EXPECT_EQ(desktop.Focus(), shell.mainWindow);
-}
-
 TEST_F(AllKinds, FollowTheMouse)
 {
     const auto& button = ObjectAt<ButtonObject>(Button);
+    desktop.MoveTo(On(Button).x, On(Button).y);
+    desktop.Do([&] { EXPECT_EQ(button.GetSection(), 1); });
     desktop.Press(On(Button).x, On(Button).y);
     desktop.Do([&] { EXPECT_EQ(button.GetSection(), 2); });
     desktop.Release(On(Button).x, On(Button).y);
@@ -32,28 +22,56 @@ TEST_F(AllKinds, FollowTheMouse)
 
 class ObjectCommands : public EditorTest { };
 
+TEST_F(ObjectCommands, PutOneMoreObjectOnTop)
+{
+    const std::string strip = WritePicture("strip.bmp", 320, 40);
+    struct Case {
+        WORD command;
+        ObjectKind kind;
+        int mode; // -1: has none
+    };
+    int32_t made = 0;
+    for (const Case& each :
+        { Case { CommandLoadPicture, KindPicture, ModeMoving }, { CommandLoadButton, KindButton, ModeButton },
+            { CommandLoadAnimation, KindAnimation, ModeAnimation }, { CommandInsertWord, KindWord, -1 },
+            { CommandInsertCheckBox, KindCheckBox, -1 }, { CommandInsertSelectbox, KindSelectbox, -1 } }) {
+        if (each.mode >= 0)
+            desktop.AnswerFileDialog(strip);
+        const bool hasDialog = each.kind == KindWord || each.kind == KindCheckBox;
+        hasDialog ? Insert(each.command, "x") : Run(each.command);
+        ASSERT_EQ(shell.editing.GetObjectCount(), made + 1);
+        EXPECT_EQ(ObjectAt(made).GetKind(), each.kind);
+        EXPECT_EQ(ObjectAt(made).GetLayer(), made);
+        EXPECT_EQ(ObjectAt(made).GetBoundaryCheck(), made == 1 || made > 3);
+        const auto* picture = dynamic_cast<const PictureObject*>(&ObjectAt(made++));
+        EXPECT_EQ(each.mode, picture && each.mode >= 0 ? picture->GetMode() : -1);
+    }
+    EXPECT_EQ(shell.editing.GetCurrentObject(), nullptr);
+    EXPECT_EQ(Selected(), std::vector<int32_t> {});
+    std::string choices;
+    for (const auto& choice : ObjectAt<SelectboxObject>(5).GetChoices())
+        choices += platform::Utf8FromCodePage(choice.text) + ",";
+    EXPECT_EQ(choices, "第一個選項,第二個選項,第三個選項,第四個選項,第五個選項,");
+    EXPECT_NE(ObjectAt(5).GetSize(), vec(0, 0));
+}
+
 TEST_F(ObjectCommands, TakeAnyPictureButAnAlphaFile)
 {
     const std::string alphaFile = WritePicture("data.bmp", 4, 4);
     const std::string half = WritePicture("half.bmp", 40, 30); // cannot be loaded
     std::filesystem::resize_file(half, 100);
     int32_t made = 0;
-    for (const int id : { 100, 101, 102 }) {
+    for (const WORD command : { CommandLoadPicture, CommandLoadButton, CommandLoadAnimation }) {
         desktop.CancelFileDialog();
         desktop.AnswerFileDialog(alphaFile);
         desktop.AnswerFileDialog(half);
         for (int i = 0; i < 3; ++i)
-            desktop.ClickButton(id);
-        desktop.Click(5, 5);
-        Play();
+            Run(command);
+        EXPECT_EQ(LatestMessage(), "無法 Show Alpha file: 請勿點選 *a.bmp 的 alpha 檔案");
+        EXPECT_EQ(desktop.MessageBoxes().back().owner, shell.mainWindow);
         EXPECT_EQ(shell.editing.GetObjectCount(), ++made);
     }
     EXPECT_EQ(desktop.MessageBoxes().size(), 3U);
-    EXPECT_EQ(LatestMessage(), "無法 Show Alpha file: 請勿點選 *a.bmp 的 alpha 檔案");
-    const platform::FileRequest& request = desktop.FileDialogs()[0];
-    EXPECT_EQ(request.label + request.pattern, "影像檔*.bmp");
-    EXPECT_EQ(std::filesystem::path(request.folder).filename(), "Image");
-    EXPECT_TRUE(request.mustExist);
 }
 
 } // namespace
