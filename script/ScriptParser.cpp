@@ -2,6 +2,7 @@
 
 #include "platform/Big5Literal.h"
 #include "platform/Kernel.h"
+#include "script/ScriptKinds.h"
 #include "script/ScriptStatements.h"
 
 #include <algorithm>
@@ -62,15 +63,28 @@ constexpr Statement<SelectboxObject> selectboxStatements[] = {
     { "SelectboxText", OptionListStatement<&SelectboxObject::AddString> },
 };
 
+// Says that the current token should have been one of the keys. Always false.
+template <class Object> bool ExpectKeys(ScriptTokenizer& tokens, std::span<const Statement<Object>> statements)
+{
+    for (const auto& statement : statements) {
+        Token key { .text = statement.key };
+        ScriptTokenizer::Classify(key);
+        static_cast<void>(tokens.Is(key.type));
+    }
+    return false;
+}
+
 // Statements up to the closing brace.
 template <class Object>
 bool ReadStatements(ScriptTokenizer& tokens, std::span<const Statement<Object>> statements, Object& object)
 {
-    while (tokens.Current().type != TokenType::CloseBrace) {
+    while (!tokens.Is(TokenType::CloseBrace)) {
         const std::string_view key = tokens.Current().text;
         const auto statement = std::find_if(
             statements.begin(), statements.end(), [&](const Statement<Object>& known) { return known.key == key; });
-        if (statement == statements.end() || !statement->read(tokens, object))
+        if (statement == statements.end())
+            return ExpectKeys(tokens, statements);
+        if (!statement->read(tokens, object))
             return false;
     }
     tokens.Next();
@@ -78,10 +92,10 @@ bool ReadStatements(ScriptTokenizer& tokens, std::span<const Statement<Object>> 
 }
 
 template <class Object>
-bool ReadBlock(ScriptTokenizer& tokens, TokenType blockWord, std::span<const Statement<Object>> statements,
+bool ReadBlock(ScriptTokenizer& tokens, ObjectKind kind, std::span<const Statement<Object>> statements,
     std::vector<std::unique_ptr<Object>>& objects)
 {
-    if (!Accept(tokens, blockWord) || !Accept(tokens, TokenType::OpenBrace))
+    if (!Accept(tokens, BlockWord(kind)) || !Accept(tokens, TokenType::OpenBrace))
         return false;
     while (Accept(tokens, TokenType::Stage)) {
         auto object = std::make_unique<Object>();
@@ -98,32 +112,42 @@ bool ReadScreenStatement(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
     const bool isSize = tokens.Current().text == "ScreenSize";
     tokens.Next();
-    if (!Accept(tokens, TokenType::Equals) || tokens.Current().type != TokenType::Vec)
+    if (!Accept(tokens, TokenType::Equals) || !tokens.Is(TokenType::Vec))
         return false;
     (isSize ? screen.screenSize : screen.screenPos) = ScriptParser::ReadVec(tokens);
     return Accept(tokens, TokenType::Semicolon);
 }
 
+bool ReadKindBlock(ScriptTokenizer& tokens, ObjectKind kind, ParsedScreen& screen)
+{
+    switch (kind) {
+    case KindNone:
+        break;
+    case KindPicture:
+        return ScriptParser::ReadPictureBlock(tokens, screen);
+    case KindButton:
+        return ScriptParser::ReadButtonBlock(tokens, screen);
+    case KindAnimation:
+        return ScriptParser::ReadAnimationBlock(tokens, screen);
+    case KindWord:
+        return ScriptParser::ReadWordBlock(tokens, screen);
+    case KindCheckBox:
+        return ScriptParser::ReadCheckBoxBlock(tokens, screen);
+    case KindSelectbox:
+        return ScriptParser::ReadSelectboxBlock(tokens, screen);
+    }
+    return false;
+}
+
 bool ReadScreenItem(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    switch (tokens.Current().type) {
-    case TokenType::PictureBlock:
-        return ScriptParser::ReadPictureBlock(tokens, screen);
-    case TokenType::ButtonBlock:
-        return ScriptParser::ReadButtonBlock(tokens, screen);
-    case TokenType::AnimationBlock:
-        return ScriptParser::ReadAnimationBlock(tokens, screen);
-    case TokenType::WordBlock:
-        return ScriptParser::ReadWordBlock(tokens, screen);
-    case TokenType::CheckBoxBlock:
-        return ScriptParser::ReadCheckBoxBlock(tokens, screen);
-    case TokenType::SelectboxBlock:
-        return ScriptParser::ReadSelectboxBlock(tokens, screen);
-    case TokenType::ScreenKey:
+    if (tokens.Is(TokenType::ScreenKey))
         return ReadScreenStatement(tokens, screen);
-    default:
-        return false;
+    for (const ObjectKind kind : scriptKinds) {
+        if (tokens.Is(BlockWord(kind)))
+            return ReadKindBlock(tokens, kind, screen);
     }
+    return false;
 }
 
 bool ReadRoot(ScriptTokenizer& tokens, ParsedScreen& screen)
@@ -153,6 +177,7 @@ bool ScriptParser::ParseTokens(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
     if (ReadRoot(tokens, screen))
         return true;
+    tokens.RefuseCurrent();
     const Token& offender = tokens.Current();
     OutputDebugStringA(std::string(offender.text).c_str());
     OutputDebugStringA(offender.type == TokenType::Unknown ? "Token Type Unknown Error" : u8"字串文法組合有錯誤"_big5);
@@ -162,52 +187,40 @@ bool ScriptParser::ParseTokens(ScriptTokenizer& tokens, ParsedScreen& screen)
 
 bool ScriptParser::ReadPictureBlock(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    return ReadBlock<PictureObject>(tokens, TokenType::PictureBlock, pictureStatements, screen.pictures);
+    return ReadBlock<PictureObject>(tokens, KindPicture, pictureStatements, screen.pictures);
 }
 
 bool ScriptParser::ReadButtonBlock(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    return ReadBlock<ButtonObject>(tokens, TokenType::ButtonBlock, buttonStatements, screen.buttons);
+    return ReadBlock<ButtonObject>(tokens, KindButton, buttonStatements, screen.buttons);
 }
 
 bool ScriptParser::ReadAnimationBlock(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    return ReadBlock<AnimationObject>(tokens, TokenType::AnimationBlock, animationStatements, screen.animations);
+    return ReadBlock<AnimationObject>(tokens, KindAnimation, animationStatements, screen.animations);
 }
 
 bool ScriptParser::ReadWordBlock(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    return ReadBlock<WordObject>(tokens, TokenType::WordBlock, wordStatements, screen.words);
+    return ReadBlock<WordObject>(tokens, KindWord, wordStatements, screen.words);
 }
 
 bool ScriptParser::ReadCheckBoxBlock(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    return ReadBlock<CheckBoxObject>(tokens, TokenType::CheckBoxBlock, checkBoxStatements, screen.checkBoxes);
+    return ReadBlock<CheckBoxObject>(tokens, KindCheckBox, checkBoxStatements, screen.checkBoxes);
 }
 
 bool ScriptParser::ReadSelectboxBlock(ScriptTokenizer& tokens, ParsedScreen& screen)
 {
-    return ReadBlock<SelectboxObject>(tokens, TokenType::SelectboxBlock, selectboxStatements, screen.selectboxes);
+    return ReadBlock<SelectboxObject>(tokens, KindSelectbox, selectboxStatements, screen.selectboxes);
 }
 
 vec ScriptParser::ReadVec(ScriptTokenizer& tokens)
 {
-    vec value { 0, 0 };
-    tokens.Next();
-    if (Accept(tokens, TokenType::OpenParen) && ReadInteger(tokens, value.x) && Accept(tokens, TokenType::Comma)
-        && ReadInteger(tokens, value.y) && Accept(tokens, TokenType::CloseParen))
-        return value;
-    OutputDebugStringA(u8"處理 vec 時發生錯誤"_big5);
-    OutputDebugStringA("\n");
-    return { -1, -1 };
+    return ReadVecValue(tokens);
 }
 
 std::string ScriptParser::ReadString(ScriptTokenizer& tokens)
 {
-    const Token& token = tokens.Current();
-    std::string_view text = token.text;
-    if (token.type == TokenType::String)
-        text = text.substr(1, text.size() - 2);
-    tokens.Next();
-    return std::string(text);
+    return ReadTextValue(tokens);
 }

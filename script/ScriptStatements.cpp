@@ -1,5 +1,8 @@
 #include "script/ScriptStatements.h"
 
+#include "platform/Big5Literal.h"
+#include "platform/Kernel.h"
+
 #include <algorithm>
 #include <charconv>
 #include <limits>
@@ -31,7 +34,7 @@ int32_t WholePart(std::string_view real)
 
 bool Accept(ScriptTokenizer& tokens, TokenType type)
 {
-    if (tokens.Current().type != type)
+    if (!tokens.Is(type))
         return false;
     tokens.Next();
     return true;
@@ -45,7 +48,7 @@ bool BeginValue(ScriptTokenizer& tokens)
 
 bool ReadInteger(ScriptTokenizer& tokens, int32_t& value)
 {
-    if (tokens.Current().type != TokenType::Integer)
+    if (!tokens.Is(TokenType::Integer))
         return false;
     value = WrappedInteger(tokens.Current().text);
     tokens.Next();
@@ -54,9 +57,30 @@ bool ReadInteger(ScriptTokenizer& tokens, int32_t& value)
 
 bool ReadWholePart(ScriptTokenizer& tokens, int32_t& value)
 {
-    if (tokens.Current().type != TokenType::Real)
+    if (!tokens.Is(TokenType::Real))
         return false;
     value = WholePart(tokens.Current().text);
     tokens.Next();
     return true;
+}
+
+vec ReadVecValue(ScriptTokenizer& tokens)
+{
+    vec value { 0, 0 };
+    tokens.Next();
+    if (Accept(tokens, TokenType::OpenParen) && ReadInteger(tokens, value.x) && Accept(tokens, TokenType::Comma)
+        && ReadInteger(tokens, value.y) && Accept(tokens, TokenType::CloseParen))
+        return value;
+    OutputDebugStringA(u8"處理 vec 時發生錯誤"_big5);
+    OutputDebugStringA("\n");
+    return { -1, -1 };
+}
+
+std::string ReadTextValue(ScriptTokenizer& tokens)
+{
+    std::string_view text = tokens.Current().text;
+    if (tokens.Is(TokenType::String))
+        text = text.substr(1, text.size() - 2);
+    tokens.Next();
+    return std::string(text);
 }

@@ -2,11 +2,11 @@
 
 #include "objects/ScreenObject.h"
 #include "objects/vec.h"
-#include "script/ScriptParser.h"
 #include "script/ScriptTokenizer.h"
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 
 // The forms of a statement, key "=" value ";". A row of a kind's table names a key, the form of its value and what
@@ -24,6 +24,9 @@ template <class Object> struct Statement {
 // far as an integer holds it.
 [[nodiscard]] bool ReadInteger(ScriptTokenizer& tokens, int32_t& value);
 [[nodiscard]] bool ReadWholePart(ScriptTokenizer& tokens, int32_t& value);
+// As the parser's ReadVec and ReadString.
+vec ReadVecValue(ScriptTokenizer& tokens);
+std::string ReadTextValue(ScriptTokenizer& tokens);
 
 inline void IgnoreVec(const ScreenObject&, vec) { }
 inline void SetAlpha(ScreenObject& object, int32_t alpha)
@@ -34,9 +37,9 @@ inline void SetAlpha(ScreenObject& object, int32_t alpha)
 // A broken vec that stops on the ";" passes as (-1, -1).
 template <auto set, class Object> bool VecStatement(ScriptTokenizer& tokens, Object& object)
 {
-    if (!BeginValue(tokens) || tokens.Current().type != TokenType::Vec)
+    if (!BeginValue(tokens) || !tokens.Is(TokenType::Vec))
         return false;
-    std::invoke(set, object, ScriptParser::ReadVec(tokens));
+    std::invoke(set, object, ReadVecValue(tokens));
     return Accept(tokens, TokenType::Semicolon);
 }
 
@@ -63,15 +66,15 @@ template <auto set, class Object> bool TextStatement(ScriptTokenizer& tokens, Ob
 {
     if (!BeginValue(tokens))
         return false;
-    std::invoke(set, object, ScriptParser::ReadString(tokens));
+    std::invoke(set, object, ReadTextValue(tokens));
     return Accept(tokens, TokenType::Semicolon);
 }
 
 template <auto set, class Object> bool FileStatement(ScriptTokenizer& tokens, Object& object)
 {
-    if (!BeginValue(tokens) || tokens.Current().type != TokenType::String)
+    if (!BeginValue(tokens) || !tokens.Is(TokenType::String))
         return false;
-    std::invoke(set, object, ScriptParser::ReadString(tokens));
+    std::invoke(set, object, ReadTextValue(tokens));
     return Accept(tokens, TokenType::Semicolon);
 }
 
@@ -80,8 +83,8 @@ template <auto add, class Object> bool OptionListStatement(ScriptTokenizer& toke
 {
     if (!BeginValue(tokens))
         return false;
-    while (tokens.Current().type == TokenType::String) {
-        std::invoke(add, object, ScriptParser::ReadString(tokens));
+    while (tokens.Is(TokenType::String)) {
+        std::invoke(add, object, ReadTextValue(tokens));
         if (!Accept(tokens, TokenType::Comma))
             break;
     }

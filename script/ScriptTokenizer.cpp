@@ -1,5 +1,6 @@
 #include "script/ScriptTokenizer.h"
 
+#include "platform/CodePage.h"
 #include "platform/FileReading.h"
 #include "platform/Kernel.h"
 
@@ -79,15 +80,13 @@ TokenType TypeOfNumber(std::string_view text)
     return IsOneOf('.', text) ? TokenType::Real : TokenType::Integer;
 }
 
-void JoinLineEnds(std::string& text)
+// A column counts two-byte characters as one.
+size_t CountCharacters(std::string_view text)
 {
-    size_t kept = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        const bool beforeLineFeed = i + 1 < text.size() && text[i + 1] == '\n';
-        if (text[i] != '\r' || !beforeLineFeed)
-            text[kept++] = text[i];
-    }
-    text.resize(kept);
+    size_t count = 0;
+    for (; !text.empty(); ++count)
+        text.remove_prefix(static_cast<size_t>(platform::FirstCharacter(text).length));
+    return count;
 }
 
 } // namespace
@@ -96,48 +95,127 @@ bool ScriptTokenizer::Tokenize(const std::string& path)
 {
     constexpr size_t largestScript = size_t { 64 } << 20;
     std::optional<std::string> script = platform::ReadFileContent(path, largestScript);
-    return script && TokenizeText(*std::move(script));
+    if (script)
+        return TokenizeText(*std::move(script));
+    static_cast<void>(TokenizeText({}));
+    error.emplace();
+    return false;
 }
 
 bool ScriptTokenizer::TokenizeText(std::string script)
 {
     text = std::move(script);
-    JoinLineEnds(text);
-    position = 0;
-    bool wellFormed = true;
-    while (wellFormed && position < text.size())
-        wellFormed = ReadElement();
-    if (!wellFormed)
-        text.clear();
-    position = 0;
+    error.reset();
+    JoinLineEnds();
+    Rewind();
+    for (wellFormedEnd = 0; wellFormedEnd < text.size(); wellFormedEnd = position) {
+        if (!ReadElement())
+            break;
+    }
+    Rewind();
     Next();
-    return wellFormed;
+    return !error;
+}
+
+void ScriptTokenizer::JoinLineEnds()
+{
+    joinedLines.clear();
+    size_t kept = 0;
+    bool joins = false; // whether the byte is the CR of a CR LF
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\n')
+            joinedLines.push_back(joins);
+        joins = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        if (!joins)
+            text[kept++] = text[i];
+    }
+    text.resize(kept);
+}
+
+void ScriptTokenizer::Rewind()
+{
+    position = 0;
+    line = 0;
+    dropped = 0;
+    current = {};
+    expected = {};
 }
 
 void ScriptTokenizer::Next()
 {
+    if (position == wellFormedEnd && current.text.empty())
+        return;
     current = {};
-    while (current.text.empty() && position < text.size())
+    expected = {};
+    while (current.text.empty() && position < wellFormedEnd)
         static_cast<void>(ReadElement());
+    if (current.text.empty())
+        current.offset = position + dropped;
 }
 
-// Steps past the blank, comment or token that begins at `position`; a token becomes the current one.
+void ScriptTokenizer::RefuseCurrent()
+{
+    const size_t start = current.text.empty() ? wellFormedEnd : static_cast<size_t>(current.text.data() - text.data());
+    KeepError(ScriptProblem::UnexpectedToken, start, current.text);
+}
+
+// `start` is that of the element in the text. The first error stays.
+void ScriptTokenizer::KeepError(ScriptProblem problem, size_t start, std::string_view found)
+{
+    if (error)
+        return;
+    const std::string_view before = std::string_view(text).substr(0, start);
+    const auto lines = std::count(before.begin(), before.end(), '\n');
+    const auto joined = std::count(joinedLines.begin(), joinedLines.begin() + lines, true);
+    error = ScriptError {
+        .problem = problem,
+        .offset = start + static_cast<size_t>(joined),
+        .line = static_cast<size_t>(lines) + 1,
+        .column = CountCharacters(before.substr(before.rfind('\n') + 1)) + 1,
+        .found = std::string(found),
+        .expected = expected,
+    };
+}
+
+// Steps past the blanks, the comment or the token at `position`; a token becomes the current one.
 bool ScriptTokenizer::ReadElement()
 {
-    const size_t start = position;
-    if (IsOneOf(text[start], blanks)) {
-        ++position;
+    if (IsOneOf(text[position], blanks)) {
+        SkipBlanks();
         return true;
     }
-    if (text[start] == '/')
-        return SkipComment();
-    position = EndOfElement(start);
-    if (position == std::string::npos)
+    return text[position] == '/' ? SkipComment() : ReadToken();
+}
+
+void ScriptTokenizer::SkipBlanks()
+{
+    for (; position < text.size() && IsOneOf(text[position], blanks); ++position) {
+        if (text[position] == '\n')
+            PassLineEnd();
+    }
+}
+
+bool ScriptTokenizer::ReadToken()
+{
+    const size_t start = position;
+    const size_t tokenEnd = EndOfElement(start);
+    if (tokenEnd == std::string::npos) {
+        KeepError(ScriptProblem::OpenString, start, text.substr(start, text.find('\n', start) - start));
         return false;
+    }
+    position = tokenEnd;
     current.text = std::string_view(text).substr(start, position - start);
+    current.offset = start + dropped;
     Classify(current);
+    if (current.type == TokenType::String) {
+        for (const char byte : current.text)
+            if (byte == '\n')
+                PassLineEnd();
+    }
     if (current.type != TokenType::Unknown)
         return true;
+    const bool isNumber = IsOneOf(text[start], digits);
+    KeepError(isNumber ? ScriptProblem::MalformedNumber : ScriptProblem::UnknownWord, start, current.text);
     OutputDebugStringA(std::string(current.text).c_str());
     OutputDebugStringA("\n");
     return false;
@@ -145,10 +223,13 @@ bool ScriptTokenizer::ReadElement()
 
 bool ScriptTokenizer::SkipComment()
 {
-    if (text.compare(position, 2, "//") != 0)
+    const size_t start = position;
+    if (text.compare(start, 2, "//") != 0) {
+        KeepError(ScriptProblem::LoneSlash, start, "/");
         return false;
-    const size_t lineEnd = text.find('\n', position);
-    position = lineEnd == std::string::npos ? text.size() : lineEnd + 1;
+    }
+    const size_t lineEnd = text.find('\n', start);
+    position = std::min(lineEnd, text.size());
     return true;
 }
 

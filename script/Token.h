@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
 enum class TokenType : uint8_t {
@@ -39,4 +41,22 @@ enum class TokenType : uint8_t {
 struct Token {
     std::string_view text;
     TokenType type = TokenType::Unknown;
+    size_t offset = 0; // of its first byte in the file
+};
+
+// Some of the token types.
+class TokenSet {
+public:
+    constexpr TokenSet() = default;
+    constexpr TokenSet(std::initializer_list<TokenType> types)
+    {
+        for (const TokenType type : types)
+            Add(type);
+    }
+    constexpr void Add(TokenType type) { bits |= 1U << static_cast<uint32_t>(type); }
+    constexpr bool Has(TokenType type) const { return (bits >> static_cast<uint32_t>(type) & 1) != 0; }
+    constexpr bool operator==(const TokenSet&) const = default;
+
+private:
+    uint32_t bits = 0;
 };

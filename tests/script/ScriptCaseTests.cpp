@@ -10,7 +10,7 @@
 #include <utility>
 
 // Each script in the folder "cases" has beside it what reading it gives ("NAME.txt": the result, the objects, the
-// messages of the developer log) and, where that is of interest, what is written from it ("NAME.written").
+// messages of the developer log, the error) and, where that is of interest, what is written from it ("NAME.written").
 
 namespace {
 
@@ -139,6 +139,9 @@ TEST_P(ScriptReading, GivesTheExpectedObjectsAndMessages)
     std::string outcome = (complete ? "true\n" : "false\n") + Describe(screen);
     for (const auto& message : desktop.DebugMessages())
         outcome += "log " + (message.text == "\n" ? "(line feed)" : message.text) + "\n";
+    if (const auto& error = tokens.GetError())
+        outcome
+            += "error at " + std::to_string(error->offset) + ", " + platform::Utf8FromCodePage(InWords(*error)) + "\n";
     EXPECT_EQ(outcome, ReadBytes(CasePath(GetParam() + ".txt")));
 }
 

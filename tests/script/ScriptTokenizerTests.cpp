@@ -1,3 +1,4 @@
+#include "platform/headless/HeadlessDesktop.h"
 #include "script/ScriptTokenizer.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -20,6 +21,23 @@ TEST(ScriptTokenizer, ReadsFilesOfAnyLengthButNothingElse)
     EXPECT_EQ(count, 700000);
     for (const char* name : { ".", "missing.tobrik", "\\dev\\zero" })
         EXPECT_FALSE(tokens.Tokenize(name)) << name;
+}
+
+TEST(ScriptTokenizer, KeepsTheTokensBeforeAFailureAndTheirPlacesInTheFile)
+{
+    const platform::HeadlessDesktop quiet;
+    ScriptTokenizer tokens;
+    ASSERT_FALSE(tokens.TokenizeText("\r\nStage // a\r\r\n\r\n\"b\r\nc\"\n(\r\nab 5"));
+    for (const auto& [text, offset] : { std::pair("Stage", 2U), { "\"b\nc\"", 17U }, { "(", 24U } }) {
+        EXPECT_EQ(tokens.Current().text, text);
+        EXPECT_EQ(tokens.Current().offset, offset) << text;
+        tokens.Next();
+    }
+    EXPECT_EQ(tokens.Current().type, TokenType::Unknown); // the end
+    EXPECT_EQ(tokens.Current().offset, 27U);
+    EXPECT_EQ(tokens.GetError()->offset, 27U);
+    ASSERT_TRUE(tokens.TokenizeText("Stage"));
+    EXPECT_FALSE(tokens.GetError());
 }
 
 } // namespace
