@@ -3,6 +3,7 @@
 #include "platform/Kernel.h"
 
 #include <map>
+#include <utility>
 
 namespace platform {
 
@@ -31,28 +32,57 @@ Glyph Box(int width, int height)
 struct FontStore {
     FontChain chain;
     std::map<int, CellFont> fonts; // by cell height
+    std::map<int, CellFont> narrowFonts;
 
     FontStore()
     {
         if (!chain.At(0))
             OutputDebugStringA("No font with Chinese characters was found; texts are drawn as boxes.\n");
     }
+
+    CellFont MakeNarrow(int cellHeight)
+    {
+        const auto narrow = FindNarrowFont();
+        auto face = narrow ? chain.OpenBeside(narrow->file) : nullptr;
+        if (!face || face->CellHeight(narrow->pixelSize) > cellHeight)
+            return CellFont(cellHeight, chain);
+        return CellFont(cellHeight, std::move(face), narrow->pixelSize, chain);
+    }
 };
+
+FontStore& Store()
+{
+    static FontStore store;
+    return store;
+}
 
 } // namespace
 
-CellFont::CellFont(int height, FontChain& chain)
+CellFont::CellFont(int height, FontChain& fonts)
     : cellHeight(height)
-    , fonts(chain)
+    , chain(fonts)
 {
-    int fullWidth = cellHeight;
-    if (FontFace* main = fonts.At(0)) {
+    if (FontFace* main = chain.At(0)) {
         pixelSize = main->PixelSizeFor(cellHeight);
         baseline = main->Ascent(pixelSize);
-        Glyph sample;
-        if (main->Render(widthSample, pixelSize, baseline, sample))
-            fullWidth = sample.advance;
     }
+    MakeBoxes();
+}
+
+CellFont::CellFont(int height, std::unique_ptr<FontFace> face, int size, FontChain& fonts)
+    : cellHeight(height)
+    , first(std::move(face))
+    , chain(fonts)
+    , pixelSize(size)
+    , baseline((height - first->CellHeight(size)) / 2 + first->Ascent(size))
+{
+    MakeBoxes();
+}
+
+void CellFont::MakeBoxes()
+{
+    Glyph sample;
+    const int fullWidth = Render(widthSample, sample) ? sample.advance : cellHeight;
     fullBox = Box(fullWidth, cellHeight);
     halfBox = Box(fullWidth / 2, cellHeight);
 }
@@ -64,23 +94,35 @@ const Glyph& CellFont::GlyphOf(CodePageCharacter character)
     const auto known = glyphs.find(character.codePoint);
     if (known != glyphs.end())
         return known->second;
-    return glyphs.emplace(character.codePoint, Draw(character)).first->second;
+    Glyph glyph;
+    if (!Render(character.codePoint, glyph))
+        glyph = character.length == 2 ? fullBox : halfBox;
+    return glyphs.emplace(character.codePoint, std::move(glyph)).first->second;
 }
 
-Glyph CellFont::Draw(CodePageCharacter character)
+bool CellFont::Render(uint32_t codePoint, Glyph& glyph)
 {
-    Glyph glyph;
-    if (pixelSize > 0)
-        for (size_t i = 0; FontFace* font = fonts.At(i); ++i)
-            if (font->Render(character.codePoint, pixelSize, baseline, glyph))
-                return glyph;
-    return character.length == 2 ? fullBox : halfBox;
+    if (pixelSize == 0)
+        return false;
+    if (first && first->Render(codePoint, pixelSize, baseline, glyph))
+        return true;
+    for (size_t i = 0; FontFace* font = chain.At(i); ++i)
+        if (font->Render(codePoint, pixelSize, baseline, glyph))
+            return true;
+    return false;
 }
 
 CellFont& FontOfHeight(int cellHeight)
 {
-    static FontStore store;
-    return store.fonts.try_emplace(cellHeight, cellHeight, store.chain).first->second;
+    return Store().fonts.try_emplace(cellHeight, cellHeight, Store().chain).first->second;
+}
+
+CellFont& NarrowFontOfHeight(int cellHeight)
+{
+    auto& fonts = Store().narrowFonts;
+    const auto known = fonts.find(cellHeight);
+    return known != fonts.end() ? known->second
+                                : fonts.emplace(cellHeight, Store().MakeNarrow(cellHeight)).first->second;
 }
 
 } // namespace platform

@@ -50,10 +50,6 @@ std::unique_ptr<FontFace> FontFace::Open(FT_Library library, const FontFile& fil
     FT_Face opened = nullptr;
     if (FT_New_Face(library, file.path.c_str(), file.index, &opened) != 0)
         return nullptr;
-    if (FT_Get_Char_Index(opened, chineseSample) == 0) {
-        FT_Done_Face(opened);
-        return nullptr;
-    }
     return std::unique_ptr<FontFace>(new FontFace(opened));
 }
 
@@ -65,6 +61,11 @@ FontFace::FontFace(FT_Face openFace)
 FontFace::~FontFace()
 {
     FT_Done_Face(face);
+}
+
+bool FontFace::HasChinese() const
+{
+    return FT_Get_Char_Index(face, chineseSample) != 0;
 }
 
 bool FontFace::SetPixelSize(int pixelSize)
@@ -109,6 +110,11 @@ int FontFace::Ascent(int pixelSize)
     return SetPixelSize(pixelSize) ? static_cast<int>(face->size->metrics.ascender >> 6) : 0;
 }
 
+int FontFace::CellHeight(int pixelSize)
+{
+    return SetPixelSize(pixelSize) ? CellHeight() : 0;
+}
+
 bool FontFace::Render(uint32_t codePoint, int pixelSize, int baseline, Glyph& glyph)
 {
     const FT_UInt index = FT_Get_Char_Index(face, codePoint);
@@ -142,10 +148,16 @@ FontFace* FontChain::At(size_t position)
 {
     while (library && faces.size() <= position && nextChoice < fontChoices) {
         const auto file = FindFont(nextChoice++);
-        if (auto font = file ? FontFace::Open(library, *file) : nullptr)
+        auto font = file ? FontFace::Open(library, *file) : nullptr;
+        if (font && font->HasChinese())
             faces.push_back(std::move(font));
     }
     return position < faces.size() ? faces[position].get() : nullptr;
+}
+
+std::unique_ptr<FontFace> FontChain::OpenBeside(const FontFile& file) const
+{
+    return library ? FontFace::Open(library, file) : nullptr;
 }
 
 } // namespace platform

@@ -24,10 +24,10 @@ struct Glyph {
     std::vector<GlyphRun> runs;
 };
 
-// A font file with Chinese characters, open for drawing.
+// A font file, open for drawing.
 class FontFace {
 public:
-    // Null when the file cannot be used or has no Chinese.
+    // Null when the file cannot be used.
     static std::unique_ptr<FontFace> Open(FT_LibraryRec_* library, const FontFile& file);
     FontFace(const FontFace&) = delete;
     FontFace& operator=(const FontFace&) = delete;
@@ -36,8 +36,11 @@ public:
     // The pixels per em whose ascent plus descent is the cell height, or the largest ones below it; of several the one
     // that the font has hand-made bitmaps for. 0: none.
     int PixelSizeFor(int cellHeight);
+    bool HasChinese() const;
     // From the top of the cell to the baseline.
     int Ascent(int pixelSize);
+    // Ascent plus descent.
+    int CellHeight(int pixelSize);
     // Fills in the glyph of a character standing on the baseline; false when the font does not have it.
     bool Render(uint32_t codePoint, int pixelSize, int baseline, Glyph& glyph);
 
@@ -51,7 +54,7 @@ private:
     int currentPixelSize = 0;
 };
 
-// The fonts in order of preference, each looked for when it is first wanted.
+// The fonts with Chinese characters in order of preference, each looked for when it is first wanted.
 class FontChain {
 public:
     FontChain();
@@ -61,6 +64,8 @@ public:
 
     // Null past the last one.
     FontFace* At(size_t position);
+    // A face that is no link of the chain and must go before it; null when the file cannot be used.
+    std::unique_ptr<FontFace> OpenBeside(const FontFile& file) const;
 
 private:
     FT_LibraryRec_* library = nullptr;

@@ -3,6 +3,7 @@
 #include <fontconfig/fontconfig.h>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 namespace platform {
 
@@ -18,6 +19,17 @@ constexpr const char* families[] = {
     "Source Han Sans TC",
     "WenQuanYi Zen Hei",
     "Droid Sans Fallback",
+};
+
+// The narrowest first; each in pixels per em.
+struct NarrowFamily {
+    const char* name;
+    int pixelSize;
+};
+constexpr NarrowFamily narrowFamilies[] = {
+    { "DejaVu Sans Condensed", 12 },
+    { "DejaVu Sans", 11 },
+    { "Liberation Sans", 12 },
 };
 
 struct PatternDeleter {
@@ -70,6 +82,17 @@ PatternOwner ClosestOfFamily(const char* family)
     return font && IsOfFamily(font.get(), family) ? std::move(font) : nullptr;
 }
 
+std::optional<FontFile> FileOf(const PatternOwner& font)
+{
+    FcChar8* file = nullptr;
+    int index = 0;
+    if (!font || FcPatternGetString(font.get(), FC_FILE, 0, &file) != FcResultMatch)
+        return std::nullopt;
+    FcPatternGetInteger(font.get(), FC_INDEX, 0, &index);
+    // The upper half names a variation of the face.
+    return FontFile { reinterpret_cast<const char*>(file), index & 0xFFFF };
+}
+
 } // namespace
 
 const size_t fontChoices = std::size(families) + 1;
@@ -78,15 +101,15 @@ std::optional<FontFile> FindFont(size_t choice)
 {
     if (choice >= fontChoices)
         return std::nullopt;
-    const PatternOwner font
-        = choice < std::size(families) ? ClosestOfFamily(families[choice]) : Closest(FC_LANG, "zh-tw");
-    FcChar8* file = nullptr;
-    int index = 0;
-    if (!font || FcPatternGetString(font.get(), FC_FILE, 0, &file) != FcResultMatch)
-        return std::nullopt;
-    FcPatternGetInteger(font.get(), FC_INDEX, 0, &index);
-    // The upper half names a variation of the face.
-    return FontFile { reinterpret_cast<const char*>(file), index & 0xFFFF };
+    return FileOf(choice < std::size(families) ? ClosestOfFamily(families[choice]) : Closest(FC_LANG, "zh-tw"));
+}
+
+std::optional<NarrowFont> FindNarrowFont()
+{
+    for (const NarrowFamily& family : narrowFamilies)
+        if (auto file = FileOf(ClosestOfFamily(family.name)))
+            return NarrowFont { std::move(*file), family.pixelSize };
+    return std::nullopt;
 }
 
 } // namespace platform

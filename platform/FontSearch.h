@@ -19,4 +19,13 @@ extern const size_t fontChoices;
 // has Chinese characters is not looked at.
 std::optional<FontFile> FindFont(size_t choice);
 
+// A face without Chinese for lines that have little room, and the size in which it is narrow enough.
+struct NarrowFont {
+    FontFile file;
+    int pixelSize = 0;
+};
+
+// The best one among the fonts installed.
+std::optional<NarrowFont> FindNarrowFont();
+
 } // namespace platform

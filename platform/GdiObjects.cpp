@@ -40,7 +40,9 @@ Brush* WhiteBrush()
 
 Font* DefaultFont()
 {
-    return StockObject<Font>();
+    Font* font = StockObject<Font>();
+    font->narrow = true;
+    return font;
 }
 
 } // namespace platform

@@ -28,9 +28,10 @@ struct Bitmap final : GdiObject {
 
 struct Font final : GdiObject {
     int cellHeight = 16;
+    bool narrow = false;
 };
 
-// The system's own objects; every context starts with the bitmap, which is 0 by 0, and the font.
+// The system's own objects; every context starts with the bitmap, which is 0 by 0, and the font, which is narrow.
 Bitmap* NoBitmap();
 Brush* WhiteBrush();
 Font* DefaultFont();

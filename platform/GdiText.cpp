@@ -36,7 +36,8 @@ int64_t WidthOf(CellFont& font, std::string_view text, int extra)
 
 CellFont& FontOf(const DeviceContext& context)
 {
-    return platform::FontOfHeight(context.font->cellHeight);
+    const platform::Font& font = *context.font;
+    return font.narrow ? platform::NarrowFontOfHeight(font.cellHeight) : platform::FontOfHeight(font.cellHeight);
 }
 
 } // namespace

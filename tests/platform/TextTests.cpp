@@ -9,6 +9,7 @@
 #include <climits>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace {
 
@@ -75,13 +76,30 @@ TEST_F(TextLine, ShowsThePixelsOfTheFontsOwnStrikes)
     FT_Done_FreeType(library);
 }
 
-TEST_F(TextLine, IsSixteenPixelsHighWithoutAFontOfItsOwn)
+TEST_F(TextLine, IsSixteenPixelsHighAndNarrowWithoutAFontOfItsOwn)
 {
-    DeleteObject(font);
-    font = nullptr;
+    const HFONT sixteen = CreateFontA(0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 3, 2, nullptr);
+    DeleteObject(std::exchange(font, sixteen));
+    EXPECT_EQ(Extent("\xA4\xA4g").cx, 14 + 7) << "only the context's own font is narrow";
     EXPECT_EQ(Extent("\xA4\xA4g").cy, 16);
-    EXPECT_EQ(Extent("\xA4\xA4g").cx, 14 + 7);
+    const Grid wide = Drawn("x = 10");
+    font = nullptr;
+    EXPECT_NE(Drawn("x = 10"), wide);
+    EXPECT_EQ(Extent("\xA4\xA4g").cy, 16);
+    EXPECT_EQ(Extent("\xA4\xA4").cx, 12) << "from the font that words have";
+    EXPECT_EQ(Drawn(u8"\uEEB8"_big5)[1].substr(0, 13), ".##########..") << "a box for what no font has";
     EXPECT_EQ(Extent("").cx, 0);
+    DeleteObject(sixteen);
+}
+
+TEST_F(TextLine, LeavesRoomForAWholeStatusLineWithoutAFontOfItsOwn)
+{
+    DeleteObject(std::exchange(font, nullptr));
+    for (const char* line : { "Mouse Pos : x = -9999, y = -9999", "Total Layer Number = -9999", "Object Layer = -9999",
+             "Object Position = ( -9999, -9999 )", "Object PicSize = ( -9999, -9999 )" }) {
+        EXPECT_LE(Extent(line).cx, 190) << line;
+        EXPECT_GT(Extent(line).cx, 100) << line;
+    }
 }
 
 TEST_F(TextLine, AddsTheExtraAfterEveryCharacterOnItsWhiteBackgroundToo)
