@@ -1,17 +1,26 @@
-# Sourced by ./run and ./test: what can be built here, and how.
+# Sourced by ./run, ./test and the checks: what can be built here, and how.
+
+# leave_out WHY...: says aloud what does not happen here. In continuous integration (CI=true) nothing may be left out.
+leave_out() {
+    echo "$*"
+    [ "${CI:-}" != true ] || {
+        echo "FAILED: this is continuous integration (CI=true), where nothing may be left out" >&2
+        exit 1
+    }
+}
 
 has_package() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'; }
 
 desktop=ON
 if ! has_package qt6-base-dev; then
     desktop=OFF
-    echo "Qt is missing (qt6-base-dev): the desktop and the editor program are left out."
+    leave_out "Qt is missing (qt6-base-dev): the desktop and the editor program are left out."
 fi
 
 tests=ON
 if ! has_package libgtest-dev; then
     tests=OFF
-    echo "GoogleTest is missing (libgtest-dev): the tests are left out."
+    leave_out "GoogleTest is missing (libgtest-dev): the tests are left out."
 fi
 
 # configure PRESET [cmake options...]
@@ -22,7 +31,8 @@ configure() {
         cat "build/$preset.log"
         return 1
     }
-    grep 'left out' "build/$preset.log" || true
+    local left_out
+    left_out=$(grep 'left out' "build/$preset.log") && leave_out "$left_out" || true
 }
 
 # configure_and_build PRESET [cmake options...]
