@@ -64,7 +64,28 @@ void ScreenDocument::StartEffect(int32_t index)
     record.lastTick = GetTickCount();
     object->SetEffectRunning(true);
     PlanSlide(record, *object, canvasSize);
+    KeepEffect(record);
+}
+
+// An object has one record at most.
+void ScreenDocument::KeepEffect(const EffectRecord& record)
+{
+    DropEffect(record.index);
+    effectPlaces[static_cast<size_t>(record.index)] = static_cast<int32_t>(effects.size());
     effects.push_back(record);
+}
+
+// The last record takes the free place.
+void ScreenDocument::DropEffect(int32_t index)
+{
+    int32_t& place = effectPlaces[static_cast<size_t>(index)];
+    if (place < 0)
+        return;
+    EffectRecord& dropped = effects[static_cast<size_t>(place)];
+    dropped = effects.back();
+    effectPlaces[static_cast<size_t>(dropped.index)] = place;
+    effects.pop_back();
+    place = -1;
 }
 
 void ScreenDocument::StepEffect(int32_t index)
@@ -72,12 +93,12 @@ void ScreenDocument::StepEffect(int32_t index)
     ScreenObject* object = nullptr;
     if (!GetObject(index, object))
         return;
-    const auto record
-        = std::find_if(effects.begin(), effects.end(), [index](const auto& running) { return running.index == index; });
-    if (record == effects.end()) {
+    const int32_t place = effectPlaces[static_cast<size_t>(index)];
+    if (place < 0) {
         object->SetEffectRunning(false);
         return;
     }
+    EffectRecord* const record = &effects[static_cast<size_t>(place)];
     const uint32_t now = GetTickCount();
     if (static_cast<double>(now - record->lastTick) < static_cast<double>(record->interval))
         return;
@@ -86,7 +107,7 @@ void ScreenDocument::StepEffect(int32_t index)
     if (record->step > record->steps || record->effectKind == EffectNone) {
         PutAtEnd(*object, *record);
         object->Draw(canvas.get(), pitch);
-        effects.erase(record);
+        DropEffect(index);
         return;
     }
     // Fading out has no motion and no end: the object stays hidden while its record lives.
@@ -109,6 +130,7 @@ void ScreenDocument::FinishEffects()
         PutAtEnd(*object, record);
     }
     effects.clear();
+    std::ranges::fill(effectPlaces, -1);
 }
 
 void ScreenDocument::PutAtEnd(ScreenObject& object, const EffectRecord& record) const

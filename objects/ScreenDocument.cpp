@@ -41,6 +41,7 @@ void ScreenDocument::Add(std::unique_ptr<ScreenObject> object, ObjectKind kind)
     object->SetLayer(layerCount++);
     object->SetKind(kind);
     objects.push_back(std::move(object));
+    effectPlaces.push_back(-1);
 }
 
 void ScreenDocument::AddPicture(std::unique_ptr<PictureObject> picture)
@@ -85,11 +86,16 @@ bool ScreenDocument::GetObject(int32_t index, ScreenObject*& object) const
     return found;
 }
 
-bool ScreenDocument::IndexOfLayer(int32_t layer, int32_t& index) const
+int32_t ScreenDocument::FirstOnLayer(int32_t layer) const
 {
     const auto found = std::find_if(
         objects.begin(), objects.end(), [layer](const auto& object) { return object->GetLayer() == layer; });
-    index = found == objects.end() ? -1 : static_cast<int32_t>(found - objects.begin());
+    return found == objects.end() ? -1 : static_cast<int32_t>(found - objects.begin());
+}
+
+bool ScreenDocument::IndexOfLayer(int32_t layer, int32_t& index) const
+{
+    index = FirstOnLayer(layer);
     return index >= 0;
 }
 
@@ -137,21 +143,40 @@ bool ScreenDocument::IsObjectInRect(int32_t index, vec a, vec b) const
     return cornerInside && LiesBetween(p + v / 2, a, b);
 }
 
-bool ScreenDocument::MoveLayer(int32_t index, bool down)
+// findOnLayer(layer) is what FirstOnLayer finds.
+template <class FindOnLayer>
+bool ScreenDocument::PassNeighbour(ScreenObject& object, bool down, FindOnLayer findOnLayer)
 {
-    ScreenObject* object = nullptr;
-    if (!GetObject(index, object))
-        return false;
-    const int32_t layer = object->GetLayer();
+    const int32_t layer = object.GetLayer();
     if (layer == (down ? 0 : layerCount - 1))
         return false;
     const int32_t neighbourLayer = down ? layer - 1 : layer + 1;
-    int32_t neighbour = -1;
-    if (!IndexOfLayer(neighbourLayer, neighbour))
+    const int32_t neighbour = findOnLayer(neighbourLayer);
+    if (neighbour < 0)
         return false;
     objects[static_cast<size_t>(neighbour)]->SetLayer(layer);
-    object->SetLayer(neighbourLayer);
+    object.SetLayer(neighbourLayer);
     return true;
+}
+
+bool ScreenDocument::MoveLayer(int32_t index, bool down)
+{
+    ScreenObject* object = nullptr;
+    return GetObject(index, object)
+        && PassNeighbour(*object, down, [this](int32_t layer) { return FirstOnLayer(layer); });
+}
+
+void ScreenDocument::MoveToEnd(int32_t index, bool down)
+{
+    ScreenObject* object = nullptr;
+    if (!GetObject(index, object))
+        return;
+    // Whatever is passed takes a layer behind, so that what was found for the layers ahead stays true.
+    const std::vector<int32_t> indices = IndicesByLayer();
+    const auto lookUp = [&indices, this](int32_t layer) {
+        return layer >= 0 && layer < layerCount ? indices[static_cast<size_t>(layer)] : FirstOnLayer(layer);
+    };
+    while (PassNeighbour(*object, down, lookUp)) { }
 }
 
 bool ScreenDocument::RemoveObject(int32_t index)
@@ -167,7 +192,8 @@ bool ScreenDocument::RemoveObject(int32_t index)
     }
     --layerCount;
 
-    std::erase_if(effects, [index](const EffectRecord& record) { return record.index == index; });
+    DropEffect(index);
+    effectPlaces.erase(effectPlaces.begin() + index);
     for (EffectRecord& record : effects) {
         if (record.index > index)
             --record.index;
@@ -179,6 +205,7 @@ void ScreenDocument::Clear()
 {
     objects.clear();
     effects.clear();
+    effectPlaces.clear();
     layerCount = 0;
     std::fill_n(canvas.get(), size_t { ScreenWidth } * ScreenHeight, uint16_t { 0 });
 }

@@ -47,6 +47,8 @@ public:
 
     // Exchanges layers with the object just below (`down`) or above. False at the end of the stack.
     bool MoveLayer(int32_t index, bool down);
+    // MoveLayer until that is refused, in one pass over the objects: to the bottom (`down`) or to the top.
+    void MoveToEnd(int32_t index, bool down);
     // Deletes the object; objects behind it in the list move one index down, those above it one layer down, and effect
     // records follow.
     bool RemoveObject(int32_t index);
@@ -76,18 +78,24 @@ public:
     int32_t GetPitch() const { return pitch; }
     vec GetCanvasSize() const { return canvasSize; }
     const std::vector<std::unique_ptr<ScreenObject>>& GetObjects() const { return objects; }
+    // The running effects, in no particular order.
     const std::vector<EffectRecord>& GetEffects() const { return effects; }
 
 private:
     void Add(std::unique_ptr<ScreenObject> object, ObjectKind kind);
     void FitObject(ScreenObject& object) const;
     void PutAtEnd(ScreenObject& object, const EffectRecord& record) const;
-    // What IndexOfLayer finds for every layer, -1 where it finds nothing; for who needs them all.
+    // The index of the first object in list order on the layer, or -1; and the same of every layer, for who needs all.
+    int32_t FirstOnLayer(int32_t layer) const;
     std::vector<int32_t> IndicesByLayer() const;
+    template <class FindOnLayer> bool PassNeighbour(ScreenObject& object, bool down, FindOnLayer findOnLayer);
+    void KeepEffect(const EffectRecord& record);
+    void DropEffect(int32_t index);
 
     std::vector<std::unique_ptr<ScreenObject>> objects;
     std::vector<std::unique_ptr<PictureObject>> backgrounds;
     std::vector<EffectRecord> effects;
+    std::vector<int32_t> effectPlaces; // by object index: the place of its record in `effects`, or -1
     std::unique_ptr<uint16_t[]> canvas;
     vec canvasSize { ScreenWidth, ScreenHeight };
     int32_t pitch = 2 * ScreenWidth;

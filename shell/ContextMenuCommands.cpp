@@ -78,17 +78,11 @@ void EditSelectboxChoices()
         static_cast<void>(RunDialog("SelectboxAddString", SelectboxDialogProc));
 }
 
-// Takes as many single steps as the object has layers below or above it.
 void MoveToEnd(bool down)
 {
-    ScreenDocument& document = Shell().document;
     int32_t index = -1;
-    const ScreenObject* object = FindObject(Shell().editing.GetPointer(), index);
-    if (!object)
-        return;
-    const int32_t steps = down ? object->GetLayer() : document.GetLayerCount() - object->GetLayer();
-    for (int32_t i = 0; i < steps; ++i)
-        document.MoveLayer(index, down);
+    if (FindObject(Shell().editing.GetPointer(), index))
+        Shell().document.MoveToEnd(index, down);
 }
 
 void MoveToBottom()

@@ -72,4 +72,47 @@ void RenderPictures(benchmark::State& state)
 }
 BENCHMARK(RenderPictures)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
+// Objects without a picture: only their bookkeeping takes time.
+void FillWithUnloaded(ScreenDocument& document, int64_t count)
+{
+    for (int64_t i = 0; i < count; ++i)
+        document.AddPicture(std::make_unique<PictureObject>());
+}
+
+// Argument: the number of objects. One goes to the top and back to the bottom.
+void MoveToTheEnds(benchmark::State& state)
+{
+    ScreenDocument document;
+    FillWithUnloaded(document, state.range(0));
+    for (auto _ : state)
+        for (const bool down : { false, true })
+            document.MoveToEnd(0, down);
+}
+BENCHMARK(MoveToTheEnds)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// The same by single steps, each of which looks for its neighbour.
+void StepToTheEnds(benchmark::State& state)
+{
+    ScreenDocument document;
+    FillWithUnloaded(document, state.range(0));
+    for (auto _ : state)
+        for (const bool down : { false, true })
+            while (document.MoveLayer(0, down)) { }
+}
+BENCHMARK(StepToTheEnds)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// Argument: the number of objects whose effects run while a frame is drawn.
+void RunEffects(benchmark::State& state)
+{
+    ScreenDocument document;
+    FillWithUnloaded(document, state.range(0));
+    for (int32_t i = 0; i < document.GetObjectCount(); ++i) {
+        document.GetObjects()[static_cast<size_t>(i)]->SetEffect(EffectFadeOut); // never ends
+        document.StartEffect(i);
+    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(document.Render());
+}
+BENCHMARK(RunEffects)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
 } // namespace

@@ -63,6 +63,29 @@ TEST_F(ScreenDocumentTest, MovesObjectsThroughTheLayersAndClosesTheGapOfARemoved
     }
 }
 
+TEST_F(ScreenDocumentTest, GoesToAnEndAsByStepsAlsoOverMissingAndSharedLayers)
+{
+    const std::vector<int32_t> cases[] = { { 0, 1, 2, 3, 4 }, { 3, 1, 4, 0, 2 }, { 0, 0, 1, 2, 3 }, { 2, 1, 2, 3, 1 },
+        { 0, 1, 9, 3, 4 }, { 7, 5, 6, 4, -1 }, { 1, 3, 2, 0, 3 } };
+    for (const std::vector<int32_t>& layers : cases)
+        for (const int32_t moved : { 0, 1, 2, 3, 4, 5 })
+            for (const bool down : { false, true }) {
+                std::vector<int32_t> ends[2];
+                for (std::vector<int32_t>& end : ends) {
+                    document.Clear();
+                    for (const int32_t layer : layers)
+                        Add({ 0, 0 }).SetLayer(layer);
+                    if (&end == &ends[0])
+                        document.MoveToEnd(moved, down);
+                    else
+                        while (document.MoveLayer(moved, down)) { }
+                    for (const auto& object : document.GetObjects())
+                        end.push_back(object->GetLayer());
+                }
+                EXPECT_EQ(ends[0], ends[1]) << moved << (down ? " down" : " up");
+            }
+}
+
 TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCentreStrictlyInside)
 {
     Add({ 0, 0 });
