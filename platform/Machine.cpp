@@ -4,9 +4,27 @@
 
 #include <chrono>
 #include <cstdio>
+#include <string>
 #include <thread>
 
 namespace platform {
+
+namespace {
+
+// What a terminal might obey, if a text from a file reached it. A broken character (0) has its own sign.
+bool IsControl(uint32_t codePoint)
+{
+    return codePoint != 0 && codePoint != '\n' && (codePoint < 0x20 || codePoint == 0x7F || codePoint == 0x80);
+}
+
+std::string NumberOf(char byte)
+{
+    char number[8];
+    std::snprintf(number, sizeof number, "\\x%02X", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+    return number;
+}
+
+} // namespace
 
 uint32_t MachineTickCount()
 {
@@ -21,8 +39,14 @@ void MachineSleep(uint32_t milliseconds)
 
 void WriteToStderr(std::string_view text)
 {
-    const std::string utf8 = Utf8FromCodePage(text);
-    std::fwrite(utf8.data(), 1, utf8.size(), stderr);
+    std::string visible;
+    while (!text.empty()) {
+        const CodePageCharacter character = FirstCharacter(text);
+        const auto length = static_cast<size_t>(character.length);
+        visible += IsControl(character.codePoint) ? NumberOf(text.front()) : Utf8FromCodePage(text.substr(0, length));
+        text.remove_prefix(length);
+    }
+    std::fwrite(visible.data(), 1, visible.size(), stderr);
 }
 
 } // namespace platform

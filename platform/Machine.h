@@ -9,7 +9,8 @@ namespace platform {
 // Milliseconds since some moment in the past, wrapping around at 2^32.
 uint32_t MachineTickCount();
 void MachineSleep(uint32_t milliseconds);
-// Writes a code page 950 text to stderr as UTF-8, nothing added; broken characters as U+FFFD.
+// Writes a code page 950 text to stderr as UTF-8, nothing added; broken characters as U+FFFD, and control characters
+// other than the line feed as "\x1B".
 void WriteToStderr(std::string_view text);
 
 } // namespace platform

@@ -44,8 +44,8 @@ TEST(WithoutADesktop, TheClockRunsAndTheLogGoesToStderr)
     Sleep(20);
     EXPECT_GE(GetTickCount() - before, 20u);
     testing::internal::CaptureStderr();
-    OutputDebugStringA((u8"第 1 層"_big5 + std::string("\xA4")).c_str());
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "第 1 層\uFFFD");
+    OutputDebugStringA((u8"第 1 層"_big5 + std::string("\x1B[2J\r\t\x7F\x80\n \xA4")).c_str());
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "第 1 層\\x1B[2J\\x0D\\x09\\x7F\\x80\n \uFFFD");
 }
 
 } // namespace
