@@ -1,16 +1,16 @@
 #include "platform/FileReplacement.h"
 
 #include "platform/Path.h"
+#include "platform/TemporaryFile.h"
 
 #include <cerrno>
-#include <cstdio>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace platform {
 
@@ -18,66 +18,35 @@ namespace {
 
 using std::filesystem::path;
 
-// A new file beside the one that it shall replace; removed again unless it took that one's place.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(const path& folder)
-    {
-        constexpr int attempts = 100;
-        for (int i = 0; descriptor < 0 && i < attempts; ++i) {
-            name = folder / (".tobrik-" + std::to_string(getpid()) + "-" + std::to_string(i));
-            descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            if (descriptor < 0 && errno != EEXIST)
-                break;
-        }
-        exists = descriptor >= 0;
+FileWriting OutcomeOf(int error)
+{
+    switch (error) {
+    case 0:
+        return FileWriting::Done;
+    case ENOSPC:
+    case EDQUOT:
+        return FileWriting::DiskFull;
+    case EACCES:
+    case EPERM:
+        return FileWriting::NoPermission;
+    case EROFS:
+        return FileWriting::ReadOnly;
+    case ENOENT:
+    case ENOTDIR:
+        return FileWriting::NoFolder;
+    case EISDIR:
+    case ELOOP:
+        return FileWriting::NoOrdinaryFile;
+    case EFBIG:
+        return FileWriting::TooLarge;
+    case ENAMETOOLONG:
+    case EINVAL:
+    case EILSEQ:
+        return FileWriting::BadName;
+    default:
+        return FileWriting::Failed;
     }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile()
-    {
-        Close();
-        if (exists)
-            unlink(name.c_str());
-    }
-
-    bool IsOpen() const { return descriptor >= 0; }
-
-    // Not every system lets a file be given away; its permissions are what matters.
-    bool TakeOwnerAndPermissions(const struct stat& other) const
-    {
-        const bool givenAway = fchown(descriptor, other.st_uid, other.st_gid) == 0;
-        static_cast<void>(givenAway);
-        return fchmod(descriptor, other.st_mode & 07777) == 0;
-    }
-
-    bool Write(std::string_view bytes) const
-    {
-        while (!bytes.empty()) {
-            const ssize_t written = write(descriptor, bytes.data(), bytes.size());
-            if (written > 0)
-                bytes.remove_prefix(static_cast<size_t>(written));
-            else if (written == 0 || errno != EINTR)
-                return false;
-        }
-        return fsync(descriptor) == 0;
-    }
-
-    bool TakePlaceOf(const path& target)
-    {
-        if (!Close() || rename(name.c_str(), target.c_str()) != 0)
-            return false;
-        exists = false;
-        return true;
-    }
-
-private:
-    bool Close() { return descriptor < 0 || close(std::exchange(descriptor, -1)) == 0; }
-
-    path name;
-    int descriptor = -1;
-    bool exists = false;
-};
+}
 
 // The file that a name leads to through symbolic links, whether it exists or not; nothing when they run in a circle.
 std::optional<path> LinkTarget(path name)
@@ -95,6 +64,17 @@ std::optional<path> LinkTarget(path name)
     return std::nullopt;
 }
 
+// Whether the file that is there may be replaced. The folder would allow it for a file that is read-only, too.
+FileWriting CheckOldFile(const path& file, const struct stat& status)
+{
+    if (!S_ISREG(status.st_mode))
+        return FileWriting::NoOrdinaryFile;
+    if (faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) == 0)
+        return FileWriting::Done;
+    constexpr mode_t anybodyMayWrite = 0222;
+    return (status.st_mode & anybodyMayWrite) == 0 ? FileWriting::ReadOnly : OutcomeOf(errno);
+}
+
 // The renaming itself outlives a power cut only once the folder is on the disk too. The new file is in place by then,
 // so a folder that cannot be flushed is no failure.
 void FlushFolder(const path& folder)
@@ -106,26 +86,50 @@ void FlushFolder(const path& folder)
     close(descriptor);
 }
 
+// `old` is null where there is no file yet. The permissions come after the bytes, which nobody but the owner reads
+// until then.
+int WriteThroughTemporaryFile(const path& target, const struct stat* old, std::string_view bytes)
+{
+    constexpr mode_t ownerOnly = 0600;
+    constexpr mode_t newFile = 0666;
+    const path folder = target.has_parent_path() ? target.parent_path() : path(".");
+    RemoveAbandonedFiles(folder);
+    TemporaryFile temporary;
+    int error = temporary.Create(folder, old ? ownerOnly : newFile);
+    if (error == 0)
+        error = temporary.Write(bytes);
+    if (error == 0 && old)
+        temporary.TakeAfter(target, *old);
+    if (error == 0)
+        error = temporary.TakePlaceOf(target);
+    if (error == 0)
+        FlushFolder(folder);
+    return error;
+}
+
 } // namespace
 
-bool ReplaceFileContent(std::string_view codePagePath, std::string_view bytes)
+FileWriting ReplaceFileContent(std::string_view codePagePath, std::string_view bytes)
 {
     const std::string native = NativePath(codePagePath);
-    const std::optional<path> target = native.empty() ? std::nullopt : LinkTarget(native);
+    if (native.empty())
+        return FileWriting::BadName;
+    const std::optional<path> target = LinkTarget(native);
     if (!target)
-        return false;
+        return FileWriting::NoOrdinaryFile;
     struct stat old { };
     const bool existed = stat(target->c_str(), &old) == 0;
-    if (existed && (!S_ISREG(old.st_mode) || access(target->c_str(), W_OK) != 0))
-        return false;
+    if (!existed && errno != ENOENT)
+        return OutcomeOf(errno);
+    const FileWriting allowed = existed ? CheckOldFile(*target, old) : FileWriting::Done;
+    if (allowed != FileWriting::Done)
+        return allowed;
+    return OutcomeOf(WriteThroughTemporaryFile(*target, existed ? &old : nullptr, bytes));
+}
 
-    const path folder = target->has_parent_path() ? target->parent_path() : path(".");
-    TemporaryFile temporary(folder);
-    if (!temporary.IsOpen() || (existed && !temporary.TakeOwnerAndPermissions(old)) || !temporary.Write(bytes)
-        || !temporary.TakePlaceOf(*target))
-        return false;
-    FlushFolder(folder);
-    return true;
+void OutliveFileSizeLimit()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace platform

@@ -7,7 +7,6 @@
 #include "objects/SelectboxObject.h"
 #include "objects/WordObject.h"
 #include "platform/Big5Literal.h"
-#include "platform/FileReplacement.h"
 
 #include <algorithm>
 #include <vector>
@@ -34,11 +33,11 @@ vec FrameSize(const AnimationObject& animation)
 
 } // namespace
 
-bool ScriptWriter::Write(ScreenInfo info, const std::string& path)
+platform::FileWriting ScriptWriter::Write(ScreenInfo info, const std::string& path)
 {
     screenInfo = info;
     Compose();
-    return !unstorableText && platform::ReplaceFileContent(path, script);
+    return unstorableText ? platform::FileWriting::Failed : platform::ReplaceFileContent(path, script);
 }
 
 std::optional<std::string> ScriptWriter::FindUnstorableText(const ScreenInfo& info)

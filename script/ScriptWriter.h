@@ -1,6 +1,7 @@
 #pragma once
 
 #include "objects/vec.h"
+#include "platform/FileReplacement.h"
 #include "script/ScreenInfo.h"
 
 #include <cstddef>
@@ -19,9 +20,9 @@ class WordObject;
 // Writes a screen as a screen script. Made for one save.
 class ScriptWriter {
 public:
-    // Replaces the file (a backslash path in code page 950) as a whole. False leaves it as it was: it cannot be
-    // written, or the screen has an unstorable text.
-    [[nodiscard]] bool Write(ScreenInfo info, const std::string& path);
+    // Replaces the file (a backslash path in code page 950) as a whole. Whatever is not Done leaves it as it was, as a
+    // screen with an unstorable text does, which is Failed.
+    [[nodiscard]] platform::FileWriting Write(ScreenInfo info, const std::string& path);
 
     // The first text that a script cannot hold, because a double quote is in it.
     static std::optional<std::string> FindUnstorableText(const ScreenInfo& info);

@@ -6,7 +6,6 @@
 #include "objects/PictureObject.h"
 #include "objects/SelectboxObject.h"
 #include "objects/WordObject.h"
-#include "platform/Big5Literal.h"
 #include "platform/CurrentFolder.h"
 #include "platform/User.h"
 #include "script/ParsedScreen.h"
@@ -15,6 +14,7 @@
 #include "script/ScriptTokenizer.h"
 #include "script/ScriptWriter.h"
 #include "shell/FileDialogs.h"
+#include "shell/SaveMessages.h"
 #include "shell/ShellContext.h"
 #include "shell/WindowLayout.h"
 
@@ -72,11 +72,6 @@ ScreenInfo DescribeScreen()
         .pos = vec(0, 0),
         .objects = Shell().document.GetObjects(),
     };
-}
-
-void SayCannotSave(const char* text)
-{
-    MessageBoxA(Shell().mainWindow, text, u8"無法存檔"_big5, MB_OK);
 }
 
 // The screen is rebuilt from the file at once, so that it shows what the file holds.
@@ -154,11 +149,12 @@ bool SaveScreenScript(const std::string& path)
     PrepareForSaving(Shell().document);
     const ScreenInfo info = DescribeScreen();
     if (const auto text = ScriptWriter::FindUnstorableText(info)) {
-        SayCannotSave((u8"這段文字含有雙引號: "_big5 + *text).c_str());
+        SayTextCannotBeStored(*text);
         return false;
     }
-    if (!ScriptWriter().Write(info, path)) {
-        SayCannotSave((u8"無法寫入 "_big5 + path).c_str());
+    const platform::FileWriting written = ScriptWriter().Write(info, path);
+    if (written != platform::FileWriting::Done) {
+        SayFileCannotBeWritten(path, written);
         return false;
     }
     Shell().editing.SetFileName(path);

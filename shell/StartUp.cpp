@@ -2,6 +2,7 @@
 
 #include "objects/PictureObject.h"
 #include "platform/Big5Literal.h"
+#include "platform/FileReplacement.h"
 #include "platform/Gdi.h"
 #include "platform/User.h"
 #include "resources/ProgramResources.h"
@@ -57,6 +58,7 @@ void PlaceMainWindow(HWND window)
 
 bool StartUp(HINSTANCE instance, int showState)
 {
+    platform::OutliveFileSizeLimit();
     ShellContext& shell = Shell();
     shell.instance = instance;
     RegisterMainWindowClass(instance);

@@ -123,7 +123,7 @@ std::string Rewrite(const std::string& script)
     ParsedScreen screen;
     EXPECT_TRUE(tokens.TokenizeText(script) && ScriptParser::ParseTokens(tokens, screen));
     const auto objects = TakeObjects(std::move(screen));
-    EXPECT_TRUE(ScriptWriter().Write({ .objects = objects }, "out.tobrik"));
+    EXPECT_EQ(ScriptWriter().Write({ .objects = objects }, "out.tobrik"), platform::FileWriting::Done);
     return ReadBytes("out.tobrik");
 }
 

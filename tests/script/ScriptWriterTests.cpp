@@ -24,7 +24,8 @@ template <class Object> std::unique_ptr<Object> FromFile(const std::string& file
 std::string Written(const ScreenDocument& document)
 {
     const TemporaryFolder folder;
-    EXPECT_TRUE(ScriptWriter().Write({ { 1000, 600 }, { 0, 0 }, document.GetObjects() }, "screen.tobrik"));
+    EXPECT_EQ(ScriptWriter().Write({ { 1000, 600 }, { 0, 0 }, document.GetObjects() }, "screen.tobrik"),
+        platform::FileWriting::Done);
     return ReadBytes("screen.tobrik");
 }
 

@@ -3,6 +3,8 @@
 #include "shell/ScriptCommands.h"
 #include "tests/shell/EditorTest.h"
 
+#include <sys/resource.h>
+
 namespace {
 
 class ScriptCommands : public EditorTest {
@@ -77,7 +79,14 @@ TEST_F(ScriptCommands, SavingThatCannotBeDoneSaysSoAndChangesNothing)
     std::filesystem::create_symlink("nowhere/screen", "lost.tobrik");
     AddPicture({ 10, 10 }, { 40, 30 });
     SaveAs(folder.Path() + "/lost.tobrik");
-    EXPECT_EQ(LatestMessage().find("無法存檔: 無法寫入 \\"), 0U);
+    EXPECT_EQ(LatestMessage(), "無法存檔: 無法寫入 " + folder.Path() + "/lost.tobrik: 沒有這個資料夾");
+    rlimit before {};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small { 10, before.rlim_max };
+    setrlimit(RLIMIT_FSIZE, &small);
+    SaveAs(InImageFolder("large.tobrik"));
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_TRUE(LatestMessage().ends_with("/large.tobrik: 檔案超過大小限制")) << LatestMessage();
 
     folder.Write("old.tobrik", "old");
     Insert(103, "say \"hi\"");
@@ -121,11 +130,9 @@ TEST_F(ScriptCommands, SaveThatDoesNotTakePlaceLeavesTheCurrentFolder)
         SaveAs(folder.Path() + name);
         EXPECT_EQ(std::filesystem::current_path(), folder.Path()) << name;
         desktop.AnswerFileDialog(folder.Path() + name);
-        desktop.Key('S', MK_CONTROL);
-        Play();
+        QuickSave();
         EXPECT_EQ(std::filesystem::current_path(), folder.Path()) << name;
     }
-    EXPECT_EQ(desktop.MessageBoxes().size(), 4U);
 }
 
 TEST_F(ScriptCommands, BrokenScriptIsLoadedAsFarAsItGoesAndEndsTheEditor)
