@@ -49,6 +49,9 @@ public:
     virtual SIZE FrameSize(const Window& window) = 0;
     virtual SIZE DisplaySize() = 0;
     virtual bool IsKeyDown(int virtualKey) = 0;
+    // Where in the client area of a top-level window the pointer lies; nothing when it lies elsewhere, on something
+    // over the window for example, or a mouse button is held.
+    virtual std::optional<POINT> PointerIn(const Window& window) = 0;
 
     // Lets one piece of the user's input in; with `wait`, sleeps until there may be some. False when nothing was left
     // to let in. Never called from inside itself except by a modal loop.

@@ -48,8 +48,10 @@ ModalQuestion::ModalQuestion(Window* askingWindow)
 
 ModalQuestion::~ModalQuestion()
 {
-    if (IsWindow(owner))
-        owner->enabled = true;
+    if (!IsWindow(owner))
+        return;
+    owner->enabled = true;
+    owner->pointerPending = true;
 }
 
 } // namespace platform

@@ -11,6 +11,7 @@ Window* CapturedWindow();
 void ForgetInputOf(const Window& root);
 
 // While one is alive, a modal question is open: the window that asks takes no input. A capture ends when it begins.
+// When it ends, the window will hear where the pointer then lies.
 class ModalQuestion {
 public:
     explicit ModalQuestion(Window* askingWindow);

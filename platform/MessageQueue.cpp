@@ -28,12 +28,27 @@ QueueState& Queue()
     return queue;
 }
 
-// False when there was none.
+// While a question is open, moves do not reach the window under it.
+void PostPointer(platform::Desktop& desktop)
+{
+    for (HWND window : platform::RootWindows()) {
+        if (!window->pointerPending || !platform::TakesInput(*window))
+            continue;
+        window->pointerPending = false;
+        if (const auto at = desktop.PointerIn(*window))
+            platform::PostMouse(*window, WM_MOUSEMOVE, *at, 0);
+    }
+}
+
+// To be called once the queue is empty. False when there was none.
 bool LetInputIn(bool wait)
 {
     platform::Desktop* desktop = platform::InstalledDesktop();
     if (!desktop || Queue().pumping)
         return false;
+    PostPointer(*desktop);
+    if (!Queue().messages.empty())
+        return true;
     Queue().pumping = true;
     const bool anyCame = desktop->Pump(wait);
     Queue().pumping = false;

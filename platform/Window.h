@@ -38,6 +38,7 @@ struct Window {
     HICON smallIcon = nullptr;
     bool wantsDoubleClicks = false;
     bool erasePending = false; // InvalidateRect asked for an erase
+    bool pointerPending = false; // a question has closed: the pointer may lie somewhere else by now
     Surface surface;
 
     // Of a dialog.

@@ -51,9 +51,9 @@ void HeadlessDesktop::OnDialog(DialogScript script)
     dialogScripts.push_back(std::move(script));
 }
 
-void HeadlessDesktop::AnswerMenu(uint32_t id)
+void HeadlessDesktop::AnswerMenu(uint32_t id, std::optional<POINT> pointerAfter)
 {
-    menuAnswers.push_back(id);
+    menuAnswers.push_back({ id, pointerAfter });
 }
 
 void HeadlessDesktop::AnswerFileDialog(std::string nativePath)
@@ -128,6 +128,11 @@ bool HeadlessDesktop::IsKeyDown(int virtualKey)
         || (virtualKey == VK_CONTROL && (keysHeld & MK_CONTROL) != 0);
 }
 
+std::optional<POINT> HeadlessDesktop::PointerIn(const Window& window)
+{
+    return &window == MainWindow() && !leftButtonHeld ? pointer : std::nullopt;
+}
+
 bool HeadlessDesktop::Pump(bool)
 {
     const bool anyLeft = !openDialogs.empty() || !input.empty();
@@ -175,11 +180,13 @@ uint32_t HeadlessDesktop::ShowMenu(Window&, const Menu& menu, POINT at)
         Report("a menu opened without an answer");
         return 0;
     }
+    if (answer->pointer)
+        pointer = answer->pointer;
     for (const MenuItem& item : menu.items)
-        if (item.id == *answer)
-            return *answer;
-    if (*answer != 0)
-        Report("the menu has no item " + std::to_string(*answer));
+        if (item.id == answer->id)
+            return item.id;
+    if (answer->id != 0)
+        Report("the menu has no item " + std::to_string(answer->id));
     return 0;
 }
 

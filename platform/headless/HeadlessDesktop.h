@@ -68,12 +68,14 @@ public:
     void ClickButton(int id);
     void CloseBox();
     void MoveWindowTo(int x, int y); // of the client area, on the display
+    // Moves the pointer at once, as happens while a question is open: the main window hears of it when it closes.
+    void PointTo(POINT at) { pointer = at; }
     // Runs `step` between two pieces of input, for a look at how things stand.
     void Do(std::function<void()> step);
 
     // Answers. A file name is native, from the chooser's folder when relative; a menu answered with 0 is dismissed.
     void OnDialog(std::function<void(DialogDriver&)> script);
-    void AnswerMenu(uint32_t id);
+    void AnswerMenu(uint32_t id, std::optional<POINT> pointer = {}); // which then lies there
     void AnswerFileDialog(std::string nativePath);
     void CancelFileDialog();
 
@@ -110,6 +112,7 @@ public:
     SIZE FrameSize(const Window&) override { return frameSize; }
     SIZE DisplaySize() override { return displaySize; }
     bool IsKeyDown(int virtualKey) override;
+    std::optional<POINT> PointerIn(const Window& window) override;
     bool Pump(bool wait) override;
     int ShowMessageBox(Window* owner, std::string_view text, std::string_view caption) override;
     uint32_t ShowMenu(Window& owner, const Menu& menu, POINT at) override;
@@ -120,6 +123,10 @@ private:
     struct Input {
         std::function<void(Window&)> act; // on the main window
         WPARAM keys = 0;
+    };
+    struct MenuAnswer {
+        uint32_t id = 0;
+        std::optional<POINT> pointer;
     };
     struct OpenDialog {
         Window* window = nullptr;
@@ -138,10 +145,11 @@ private:
     std::deque<Input> input;
     WPARAM keysHeld = 0;
     bool leftButtonHeld = false;
+    std::optional<POINT> pointer; // client pixels of the main window; none: it is elsewhere
     int idlePumps = 0;
 
     std::deque<DialogScript> dialogScripts;
-    std::deque<uint32_t> menuAnswers;
+    std::deque<MenuAnswer> menuAnswers;
     std::deque<std::optional<std::string>> fileAnswers;
 
     std::vector<Window*> topLevelWindows;

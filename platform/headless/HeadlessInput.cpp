@@ -17,6 +17,7 @@ void HeadlessDesktop::QueueMouse(UINT message, int x, int y, WPARAM keys)
     const auto act = [this, message, x, y](Window& window) {
         if (message != WM_MOUSEMOVE && message != WM_RBUTTONDOWN)
             leftButtonHeld = message != WM_LBUTTONUP;
+        pointer = POINT { x, y };
         const WPARAM buttons = (leftButtonHeld ? MK_LBUTTON : 0) | (message == WM_RBUTTONDOWN ? MK_RBUTTON : 0);
         PostMouse(window, message, { x, y }, buttons | keysHeld);
     };
@@ -77,6 +78,7 @@ void HeadlessDesktop::ClickButton(int id)
 {
     Queue([this, id](Window& window) {
         Window* button = GetDlgItem(&window, id);
+        pointer.reset(); // it lies on the button
         if (button && button->visible)
             ButtonClicked(*button);
         else

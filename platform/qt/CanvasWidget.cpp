@@ -7,6 +7,8 @@
 #include "platform/qt/QtText.h"
 
 #include <QCloseEvent>
+#include <QEnterEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QMouseEvent>
 #include <QPainter>
@@ -96,7 +98,15 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    ReportMouse(*event, WM_MOUSEMOVE);
+    ReportMouse(event->position().toPoint(), event->modifiers(), event->buttons(), WM_MOUSEMOVE);
+}
+
+// The window under the pointer has become this one, which need not have been the pointer's doing.
+void CanvasWidget::enterEvent(QEnterEvent* event)
+{
+    // The event itself knows neither keys nor buttons.
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        ReportMouse(event->position().toPoint(), QGuiApplication::keyboardModifiers(), Qt::NoButton, WM_MOUSEMOVE);
 }
 
 // The second press of a double click, for which there is no press event of its own.
@@ -143,23 +153,21 @@ bool CanvasWidget::focusNextPrevChild(bool /*next*/)
 
 void CanvasWidget::ReportButton(const QMouseEvent& event, UINT leftMessage, UINT rightMessage)
 {
-    if (event.button() == Qt::LeftButton)
-        ReportMouse(event, leftMessage);
-    else if (event.button() == Qt::RightButton)
-        ReportMouse(event, rightMessage);
+    if (event.button() != Qt::LeftButton && event.button() != Qt::RightButton)
+        return;
+    const UINT message = event.button() == Qt::LeftButton ? leftMessage : rightMessage;
+    ReportMouse(event.position().toPoint(), event.modifiers(), event.buttons(), message);
 }
 
 // The toolkit keeps on telling about the mouse outside the client area, or over a push button, while a mouse button is
 // held. The program hears of that only with the mouse captured, which is decided when its turn comes: the press before
 // may have captured it.
-void CanvasWidget::ReportMouse(const QMouseEvent& event, UINT message)
+void CanvasWidget::ReportMouse(QPoint point, Qt::KeyboardModifiers modifiers, Qt::MouseButtons buttons, UINT message)
 {
     if (!IsShown())
         return;
-    const QPoint point = event.position().toPoint();
     const bool inside = rect().contains(point) && !childAt(point);
-    const auto modifiers = event.modifiers();
-    const WPARAM keys = MouseKeysOf(event.buttons(), modifiers);
+    const WPARAM keys = MouseKeysOf(buttons, modifiers);
     state.reports.Add(record, [this, point, inside, modifiers, keys, message] {
         if (!inside && state.capture != &record)
             return false;

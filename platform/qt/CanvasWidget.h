@@ -23,6 +23,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -30,7 +31,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void ReportMouse(const QMouseEvent& event, UINT message);
+    void ReportMouse(QPoint point, Qt::KeyboardModifiers modifiers, Qt::MouseButtons buttons, UINT message);
     void ReportButton(const QMouseEvent& event, UINT leftMessage, UINT rightMessage);
     bool IsShown() const { return state.widgets.Shows(*this, record); }
 

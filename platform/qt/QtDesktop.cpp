@@ -9,6 +9,7 @@
 #include "platform/qt/Questions.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QLibraryInfo>
 #include <QScreen>
 #include <QTranslator>
@@ -184,6 +185,16 @@ bool QtDesktop::IsKeyDown(int virtualKey)
     if (virtualKey == VK_SHIFT)
         return parts->state.modifiers.testFlag(Qt::ShiftModifier);
     return virtualKey == VK_CONTROL && parts->state.modifiers.testFlag(Qt::ControlModifier);
+}
+
+std::optional<POINT> QtDesktop::PointerIn(const Window& window)
+{
+    const QWidget* widget = parts->state.widgets.WidgetOf(&window);
+    const QPoint pointer = QCursor::pos();
+    if (!widget || QApplication::widgetAt(pointer) != widget || QGuiApplication::mouseButtons() != Qt::NoButton)
+        return std::nullopt;
+    const QPoint at = widget->mapFromGlobal(pointer);
+    return POINT { at.x(), at.y() };
 }
 
 bool QtDesktop::Pump(bool wait)

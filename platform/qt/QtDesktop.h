@@ -29,6 +29,7 @@ public:
     SIZE DisplaySize() override;
     // Shift and Ctrl as they were held when the latest reported input was made.
     bool IsKeyDown(int virtualKey) override;
+    std::optional<POINT> PointerIn(const Window& window) override;
 
     // Reports one piece of input at most, so that the program has reacted to it before the next one is judged.
     bool Pump(bool wait) override;

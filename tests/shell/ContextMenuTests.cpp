@@ -39,6 +39,26 @@ TEST_F(ContextMenus, MoveAnObjectToTheBottomOrTheTop)
     EXPECT_EQ(ObjectAt(Selectbox).GetLayer(), 4);
 }
 
+TEST_F(ContextMenus, LeaveThePointerOnWhatLiesUnderItAfterwards)
+{
+    Choose(On(Picture), MenuObjectProperties, [this](platform::DialogDriver& dialog) {
+        desktop.PointTo(On(Word));
+        dialog.Press(ConfirmButton);
+    });
+    EXPECT_EQ(shell.editing.GetCurrentObject(), &ObjectAt(Word));
+    desktop.Key(VK_DELETE);
+    Play();
+    EXPECT_EQ(shell.document.GetObjectCount(), 5);
+    EXPECT_EQ(ObjectAt(Word).GetKind(), KindCheckBox);
+
+    desktop.AnswerMenu(MenuToTop, On(Animation));
+    desktop.RightPress(On(Picture).x, On(Picture).y);
+    desktop.Key(VK_DELETE);
+    Play();
+    EXPECT_EQ(ObjectAt(Animation).GetKind(), KindCheckBox);
+    EXPECT_EQ(ObjectAt(Picture).GetLayer(), 3); // the choice meant the object that was pressed
+}
+
 TEST_F(ContextMenus, PlayPauseAndRestartAnAnimation)
 {
     const auto& animation = ObjectAt<AnimationObject>(Animation);

@@ -67,6 +67,19 @@ TEST_F(QtInput, KeepsTheOrderInWhichThingsWereDone)
     EXPECT_EQ(TakeLog(), Log({ "key 37", "command 7", "close" }));
 }
 
+TEST_F(QtInput, TellsWhereThePointerIsWhenTheWindowComesUnderIt)
+{
+    for (const Qt::MouseButton held : { Qt::NoButton, Qt::LeftButton }) {
+        if (held != Qt::NoButton)
+            QTest::mousePress(Handle(), held, {}, { 90, 40 });
+        TakeLog();
+        QEnterEvent entering(QPointF(100, 50), QPointF(100, 50), Canvas().mapToGlobal(QPointF(100, 50)));
+        QCoreApplication::sendEvent(&Canvas(), &entering);
+        EXPECT_EQ(TakeLog(), held == Qt::NoButton ? Log { "move 100 50 0" } : Log {});
+    }
+    QTest::mouseRelease(Handle(), Qt::LeftButton, {}, { 90, 40 });
+}
+
 TEST_F(QtInput, GoesToTheQuestionThatIsOpen)
 {
     onMessage = [this](UINT message) {

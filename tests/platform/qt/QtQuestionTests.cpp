@@ -2,6 +2,7 @@
 #include "tests/platform/qt/QtProgram.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -25,6 +26,26 @@ TEST_F(QtQuestions, ShowABoxsTextAsItIs)
     } });
     const std::string caption = u8"一二三四五六七八九十一二三四五六七八九十一二三四五六七八九十"_big5;
     EXPECT_EQ(MessageBoxA(window, u8"輸入值 = <b>&x"_big5, caption.c_str(), MB_OK), IDOK);
+}
+
+// A display need not say that the window is entered when the pointer has lain on it all the time.
+struct NoEntering final : QObject {
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Enter; }
+};
+
+TEST_F(QtQuestions, LeaveWordOfThePointerWhenTheyClose)
+{
+    NoEntering filter;
+    Canvas().installEventFilter(&filter);
+    const HMENU menu = GetSubMenu(LoadMenuA(&personResources, "Colours"), 0);
+    for (const QPoint pointer :
+        { QPoint(120, 60), QPoint(20, 10), QPoint(-9, 60) }) { // on the canvas, the button, outside
+        QCursor::setPos(Canvas().mapToGlobal(pointer));
+        TakeLog();
+        WhileModal({ [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); } });
+        TrackPopupMenu(menu, TPM_RIGHTBUTTON, 300, 300, 0, window, nullptr);
+        EXPECT_EQ(TakeLog(), pointer.x() > 100 ? Log { "move 120 60 0" } : Log {});
+    }
 }
 
 TEST_F(QtQuestions, LetEitherButtonChooseFromAMenu)
