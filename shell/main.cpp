@@ -7,7 +7,8 @@
 
 int main(int argc, char** argv)
 {
-    platform::QtDesktop desktop(argc, argv);
+    // Nothing but the program's name is read.
+    platform::QtDesktop desktop(argc > 0 ? argv[0] : "tobrik");
     platform::InstallDesktop(&desktop);
     int exitStatus = 0;
     {

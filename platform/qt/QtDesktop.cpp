@@ -15,11 +15,25 @@
 #include <QTranslator>
 
 #include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
 
 namespace platform {
 namespace {
 
 constexpr int longestRoundMs = 50;
+
+QtMessageHandler toolkitsOwnHandler = nullptr;
+
+// The toolkit tries whatever displays there may be in its own way and says what was wrong with each, then aborts.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type != QtFatalMsg)
+        return toolkitsOwnHandler(type, context, message);
+    std::fputs("tobrik: no display can be reached, so the editor cannot open its window\n", stderr);
+    std::_Exit(EXIT_SUCCESS);
+}
 
 std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
 {
@@ -28,7 +42,9 @@ std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
     // The toolkit's own dialogs behave the same on every desktop.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QCoreApplication::setApplicationName(QStringLiteral("tobrik"));
+    toolkitsOwnHandler = qInstallMessageHandler(EndWithoutDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(toolkitsOwnHandler);
     // The user's locale must not reach the numbers in files.
     std::setlocale(LC_NUMERIC, "C");
     QGuiApplication::setDesktopFileName(QStringLiteral("tobrik"));
@@ -40,13 +56,17 @@ std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
 } // namespace
 
 struct QtDesktop::Parts {
+    std::string programName;
+    char* arguments[2] = { programName.data(), nullptr };
+    int argumentCount = 1;
     std::unique_ptr<QApplication> application;
     QTranslator translator;
     DesktopState state;
     int pumpDepth = 0;
 
-    Parts(int& argc, char** argv)
-        : application(MakeApplication(argc, argv))
+    explicit Parts(std::string name)
+        : programName(std::move(name))
+        , application(MakeApplication(argumentCount, arguments))
     {
         // The file chooser speaks the editor's language where the translation is installed.
         if (translator.load(QStringLiteral("qtbase_zh_TW"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -94,8 +114,8 @@ void QtDesktop::Parts::Flush(const QWidgetList& windows)
     }
 }
 
-QtDesktop::QtDesktop(int& argc, char** argv)
-    : parts(std::make_unique<Parts>(argc, argv))
+QtDesktop::QtDesktop(std::string programName)
+    : parts(std::make_unique<Parts>(std::move(programName)))
 {
 }
 

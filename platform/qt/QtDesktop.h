@@ -3,15 +3,17 @@
 #include "platform/Desktop.h"
 
 #include <memory>
+#include <string>
 
 namespace platform {
 
 // The designer's own desktop: real windows, dialogs, menus and boxes. There is one at most, and it is made inside
 // main: it brings the toolkit's application object along.
-class QtDesktop final : public Desktop {
+class QtDesktop : public Desktop {
 public:
-    // The arguments must outlive the desktop; the toolkit takes the ones that it knows out of them.
-    QtDesktop(int& argc, char** argv);
+    // The name is all that the toolkit learns of the command line: it has options of its own. Where no display can be
+    // reached this says so on stderr and ends the process with status 0; the toolkit would abort it.
+    explicit QtDesktop(std::string programName);
     ~QtDesktop() override;
 
     // Shows what was drawn to the windows first, so that a frame is seen before the pause and not after it.

@@ -40,7 +40,7 @@ public:
                   { "QT_SCALE_FACTOR", "1" }, { "LANG", "C.UTF-8" } };
         for (const auto& [variable, value] : surroundings)
             qputenv(variable, value);
-        desktop = std::make_unique<platform::QtDesktop>(argumentCount, arguments);
+        desktop = std::make_unique<platform::QtDesktop>("platform_qt_tests");
         platform::InstallDesktop(desktop.get());
     }
     void TearDown() override
@@ -50,8 +50,6 @@ public:
     }
 
 private:
-    int argumentCount = 0;
-    char* arguments[1] = { nullptr };
     std::unique_ptr<platform::QtDesktop> desktop;
 };
 
