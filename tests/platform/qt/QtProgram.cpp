@@ -7,11 +7,11 @@
 
 #include <QApplication>
 #include <QPushButton>
-#include <QTimer>
+#include <QWindow>
 
-#include <iterator>
 #include <map>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -30,6 +30,32 @@ constexpr platform::DialogTemplate dialogs[] = { { "PERSON", "人", 100, 90, fal
 constexpr platform::MenuItemTemplate items[] = { { 11, "紅" }, { 12, "綠 & 藍" } };
 constexpr platform::MenuTemplate menus[] = { { "COLOURS", items } };
 
+Steps stepsToCome;
+
+bool IsQuestionOpen()
+{
+    const QWidget* popup = QApplication::activePopupWidget();
+    const QWidget* question = popup ? popup : QApplication::activeModalWidget();
+    return question && question->windowHandle() && question->windowHandle()->isExposed();
+}
+
+// The real desktop with a designer who makes the next step when the program has dealt with everything and waits.
+class WorkedDesktop final : public platform::QtDesktop {
+public:
+    using QtDesktop::QtDesktop;
+    bool Pump(bool wait) override
+    {
+        if (QtDesktop::Pump(false))
+            return true;
+        if (!wait || stepsToCome.empty() || !IsQuestionOpen())
+            return wait && QtDesktop::Pump(true);
+        const auto step = stepsToCome.front();
+        stepsToCome.erase(stepsToCome.begin());
+        step();
+        return true;
+    }
+};
+
 // The application object exists while tests run, and not while they are listed.
 class DesktopEnvironment final : public testing::Environment {
 public:
@@ -40,7 +66,7 @@ public:
                   { "QT_SCALE_FACTOR", "1" }, { "LANG", "C.UTF-8" } };
         for (const auto& [variable, value] : surroundings)
             qputenv(variable, value);
-        desktop = std::make_unique<platform::QtDesktop>("platform_qt_tests");
+        desktop = std::make_unique<WorkedDesktop>("platform_qt_tests");
         platform::InstallDesktop(desktop.get());
     }
     void TearDown() override
@@ -90,6 +116,7 @@ QtProgram::QtProgram()
 
 QtProgram::~QtProgram()
 {
+    EXPECT_TRUE(std::exchange(stepsToCome, {}).empty());
     platform::DiscardWindows();
     running = nullptr;
 }
@@ -102,20 +129,15 @@ Log QtProgram::TakeLog()
     return std::exchange(log, {});
 }
 
-void QtProgram::WhileModal(Steps steps)
+void QtProgram::WhileModal(const Steps& steps)
 {
-    if (steps.empty())
-        return;
-    QTimer::singleShot(30, qApp, [this, steps = std::move(steps)] {
-        steps.front()();
-        WhileModal({ std::next(steps.begin()), steps.end() });
-    });
+    stepsToCome.insert(stepsToCome.end(), steps.begin(), steps.end());
 }
 
 void QtProgram::WorkInDialog(Steps steps)
 {
     steps.push_back([this] { QTest::mouseClick(&InDialog<QPushButton>(), Qt::LeftButton); });
-    WhileModal(std::move(steps));
+    WhileModal(steps);
     EXPECT_EQ(DialogBoxParamA(&personResources, "Person", window, DialogProcedure, 0), 42);
 }
 

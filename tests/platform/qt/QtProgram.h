@@ -28,7 +28,7 @@ protected:
     // Lets the program run until nothing is left to do, and gives what was noted since the last look.
     Log TakeLog();
     // Queues what the designer does while something modal is open; each step finds the one before dealt with.
-    void WhileModal(Steps steps);
+    void WhileModal(const Steps& steps);
     // Runs the dialog "PERSON" through the steps and closes it with its button.
     void WorkInDialog(Steps steps);
 
