@@ -23,7 +23,8 @@ protected:
     {
         return Take(SPic16X_::LoadBmpKey_("p.bmp", 0, keyGreen, 0, trim, &size, &left, &top));
     }
-    Bytes LoadAlpha() { return Take(SPic16X_::LoadBmpAlpha_("p.bmp", "pa.bmp", 0, &size)); }
+    Bytes LoadAlpha(uint32_t trim = 0) { return Take(SPic16X_::LoadBmpAlpha_("p.bmp", "pa.bmp", trim, &size)); }
+    std::vector<int> Head() const { return { picture->kind, picture->width, picture->height, left, top }; }
     const SPic16Sprite_& Sprite() const { return static_cast<const SPic16Sprite_&>(*picture); }
 
     const TemporaryFolder folder;
@@ -44,10 +45,15 @@ TEST_F(BmpLoading, TakesOpacityFromTheCompanion)
     alphas.palette[8] = 0xFFFF08; // only blue counts
     alphas.Write("pa.bmp");
     EXPECT_EQ(LoadAlpha(), (Bytes { 0x40, 1, 0x00, 0x80, 3, 16, 0x00, 0x80, 5, 1, 0x40, 6 }));
-    ASSERT_TRUE(picture && picture->kind == PicSprite && picture->width == 3 && picture->height == 2);
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(Head(), (std::vector<int> { PicSprite, 3, 2, 99, 99 }));
     EXPECT_EQ(Sprite().palette[6], 0x118A); // 565 without the lowest green bit
+    alphas.indices = { 7, 0, 7, 7, 8, 7 };
+    alphas.Write("pa.bmp");
+    EXPECT_EQ(LoadAlpha(1), (Bytes { 0x80, 5, 1 })) << "visible from 8";
+    EXPECT_EQ(LoadAlpha(2), (Bytes { 0x03, 0x80, 5, 1, 0x00 })) << "only 1 trims";
     BmpFile(2, 3).Write("pa.bmp");
-    EXPECT_TRUE(LoadAlpha().empty() && !picture);
+    EXPECT_TRUE(LoadAlpha().empty());
 }
 
 TEST_F(BmpLoading, MakesTheHighestKeyedIndexTransparent)
@@ -70,6 +76,25 @@ TEST_F(BmpLoading, MakesTheHighestKeyedIndexTransparent)
     bmp.palette.clear(); // stands for 256 black entries
     bmp.Write("p.bmp");
     EXPECT_EQ(LoadKey(0), (Bytes { 0x00, 0x41, 200, 4 }));
+    bmp.palette = { green, 0 };
+    bmp.indices = { 0, 1, 0 };
+    bmp.Write("p.bmp");
+    EXPECT_EQ(LoadKey(), (Bytes { 0x00, 0x40, 1, 0x00 })) << "the lowest index";
+    EXPECT_EQ(LoadKey(8), (Bytes { 0x42, 0, 1, 0 })) << "none";
+    EXPECT_EQ(Sprite().keyIndex, 0);
+}
+
+TEST_F(BmpLoading, TakesSizesUpTo65535AndBlocksUpTo32Bits)
+{
+    std::string bytes = BmpFile(1, 1).Bytes();
+    for (const auto& [width, height, streamBytes] :
+        { std::tuple(65535u, 1u, 66559u), { 1, 65535, 66559 }, { 65532, 21848, 0 } }) {
+        PutLong(bytes, 18, width);
+        PutLong(bytes, 22, height);
+        WriteBytes("p.bmp", bytes);
+        std::filesystem::resize_file("p.bmp", 1078 + uint64_t { height } * ((width + 3) / 4 * 4));
+        EXPECT_EQ(LoadKey().size(), streamBytes);
+    }
 }
 
 TEST_F(BmpLoading, FindsThePaletteByTheHeaderSizes)
@@ -93,15 +118,13 @@ TEST_F(BmpLoading, TrimsOnRequest)
 {
     const struct {
         Grid whole;
-        std::vector<int> place; // width, height, left, top
+        std::vector<int> head;
         Bytes trimmed;
     } cases[] = {
-        { { "...", "..a", "...", "b.c", "..." }, { 3, 3, 0, 1 }, { 1, 0x40, 'a', 2, 0x40, 'b', 0, 0x40, 'c' } },
-        { { "...a", "....", ".b.." }, { 3, 3, 1, 0 }, { 1, 0x40, 'a', 2, 0x40, 'b', 1 } },
-        { { "...", "..a" }, { 1, 1, 2, 1 }, { 0x40, 'a' } },
-        { { "...", "..." }, { 0, 0, 99, 99 }, {} }, // the offsets stay unwritten
+        { { "...", "..a", "...", "b.c", "..." }, { 7, 3, 3, 0, 1 }, { 1, 0x40, 'a', 2, 0x40, 'b', 0, 0x40, 'c' } },
+        { { "...", "..." }, { 7, 0, 0, 99, 99 }, {} }, // the offsets stay unwritten
     };
-    for (const auto& [whole, place, trimmed] : cases) {
+    for (const auto& [whole, head, trimmed] : cases) {
         BmpFile bmp(static_cast<int>(whole[0].size()), static_cast<int>(whole.size()));
         bmp.indices = PlaneOf(whole, [](char letter) { return letter; });
         bmp.palette['.'] = green;
@@ -109,7 +132,7 @@ TEST_F(BmpLoading, TrimsOnRequest)
         left = top = 99;
         EXPECT_EQ(LoadKey(255, 1), trimmed);
         ASSERT_TRUE(picture);
-        EXPECT_EQ((std::vector<int> { picture->width, picture->height, left, top }), place);
+        EXPECT_EQ(Head(), head);
     }
 }
 

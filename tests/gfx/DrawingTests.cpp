@@ -98,14 +98,16 @@ protected:
         const int x = Random(0, canvasWidth - w), y = Random(0, canvasHeight - h);
         const int alpha = Random(0, 2) == 0 ? Random(240, 255) : Random(0, 255);
         const int flags = Random(0, 3);
-        SPic16X_::Draw_(picture.get(), canvas.data(), 2 * canvasWidth, x, y, sourceX, sourceY, w, h,
-            static_cast<uint8_t>(alpha), static_cast<uint8_t>(flags));
+        const bool bottomUp = Random(0, 3) == 0; // the buffer's row 0 is the canvas's last one
+        const auto rowOf = [&](int canvasY) { return (bottomUp ? canvasHeight - 1 - canvasY : canvasY) * canvasWidth; };
+        SPic16X_::Draw_(picture.get(), canvas.data() + rowOf(0), bottomUp ? -2 * canvasWidth : 2 * canvasWidth, x, y,
+            sourceX, sourceY, w, h, static_cast<uint8_t>(alpha), static_cast<uint8_t>(flags));
         for (int j = 0; j < h; ++j)
             for (int i = 0; i < w; ++i) {
                 const int column = (flags & 1) != 0 ? width - 1 - sourceX - i : sourceX + i;
                 const int row = (flags & 2) != 0 ? height - 1 - sourceY - j : sourceY + j;
                 const ModelPixel source = model[static_cast<size_t>(row * width + column)];
-                uint16_t& target = expected[static_cast<size_t>((y + j) * canvasWidth + x + i)];
+                uint16_t& target = expected[static_cast<size_t>(rowOf(y + j) + x + i)];
                 target = Blended(source.color, target, Scaled(source.level, alpha >> 3));
             }
         ASSERT_EQ(canvas, expected) << "kind " << picture->kind << " alpha " << alpha << " flags " << flags;

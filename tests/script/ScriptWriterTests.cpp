@@ -21,10 +21,10 @@ template <class Object> std::unique_ptr<Object> FromFile(const std::string& file
     return object;
 }
 
-std::string Written(const ScreenDocument& document)
+std::string Written(const ScreenDocument& document, vec screenPos = { 0, 0 })
 {
     const TemporaryFolder folder;
-    EXPECT_EQ(ScriptWriter().Write({ { 1000, 600 }, { 0, 0 }, document.GetObjects() }, "screen.tobrik"),
+    EXPECT_EQ(ScriptWriter().Write({ { 1000, 600 }, screenPos, document.GetObjects() }, "screen.tobrik"),
         platform::FileWriting::Done);
     return ReadBytes("screen.tobrik");
 }
@@ -57,10 +57,11 @@ TEST(ScriptWriter, MeasuresPicturesByTheirViewsAndStripsByTheirLongerSide)
     document.AddPicture(FromFile<PictureObject>("d.bmp", { 2147483647, -5 }, { 10, 1 }));
     for (const vec strip : { vec { 64, 512 }, vec { 100, 100 }, vec { 101, 100 } })
         document.AddAnimation(FromFile<AnimationObject>("e.bmp", { 0, 0 }, strip));
-    const std::string script = Written(document);
-    for (const char* line : { "    ScreenSize = vec (340, 460) ;", "        Stage 2 {",
-             "            PictureSize = vec (999, 999) ;", "            AnimationPicSize = vec ( 64, 64 );",
-             "            AnimationPicSize = vec ( 100, 12 );", "            AnimationPicSize = vec ( 12, 100 );" })
+    const std::string script = Written(document, { 12, -34 });
+    for (const char* line :
+        { "    ScreenSize = vec (340, 460) ;", "    ScreenPos = vec (12, -34) ;", "        Stage 2 {",
+            "            PictureSize = vec (999, 999) ;", "            AnimationPicSize = vec ( 64, 64 );",
+            "            AnimationPicSize = vec ( 100, 12 );", "            AnimationPicSize = vec ( 12, 100 );" })
         EXPECT_NE(script.find(std::string("\n") + line + "\r\n"), std::string::npos) << line;
 }
 
