@@ -144,6 +144,19 @@ uint32_t TakeUtf8(std::string_view& text)
     return codePoint;
 }
 
+// Every range of capitals is followed by its small letters at one distance.
+uint32_t LowerCase(uint32_t codePoint)
+{
+    static constexpr struct {
+        uint32_t first, last, distance;
+    } capitals[] = { { 'A', 'Z', 32 }, { 0x0391, 0x03A9, 32 }, { 0x0401, 0x0401, 80 }, { 0x0410, 0x042F, 32 },
+        { 0x2160, 0x216B, 16 }, { 0xFF21, 0xFF3A, 32 } };
+    for (const auto& range : capitals)
+        if (codePoint >= range.first && codePoint <= range.last)
+            return codePoint + range.distance;
+    return codePoint;
+}
+
 } // namespace
 
 CodePageCharacter FirstCharacter(std::string_view text)
@@ -184,6 +197,21 @@ std::string CodePageFromUtf8(std::string_view text)
             bytes += '?';
     }
     return bytes;
+}
+
+std::string FoldCase(std::string_view utf8)
+{
+    std::string folded;
+    folded.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const std::string_view before = utf8;
+        const uint32_t codePoint = TakeUtf8(utf8);
+        if (const uint32_t lower = LowerCase(codePoint); lower != codePoint)
+            AppendUtf8(folded, lower);
+        else
+            folded += before.substr(0, before.size() - utf8.size());
+    }
+    return folded;
 }
 
 std::string_view CutToBytes(std::string_view text, size_t limit)

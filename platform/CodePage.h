@@ -24,6 +24,10 @@ std::string Utf8FromCodePage(std::string_view text);
 // What the page cannot spell becomes one "?" a character.
 std::string CodePageFromUtf8(std::string_view text);
 
+// A UTF-8 text with every letter in lower case that the page has: Latin of either width, Greek, Cyrillic, Roman
+// numerals. All else stays as it is, malformed bytes too.
+std::string FoldCase(std::string_view utf8);
+
 // The longest beginning of `text` that has at most `limit` bytes and ends between two characters.
 std::string_view CutToBytes(std::string_view text, size_t limit);
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-// Names of classes, resources and files, which are the same when they differ in the case of ASCII letters only.
+// Names of classes and resources, which are the same when they differ in the case of ASCII letters only.
 namespace platform {
 
 bool SameName(std::string_view one, std::string_view other);

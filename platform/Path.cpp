@@ -1,10 +1,11 @@
 #include "platform/Path.h"
 
 #include "platform/CodePage.h"
-#include "platform/Names.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
 namespace platform {
 
@@ -23,22 +24,70 @@ bool IsFileName(std::string_view text)
     return true;
 }
 
-// How `name` is spelled in the folder ("" or ending in a slash): as it stands if that exists, else as the first
-// name in byte order that differs in case only, else as it stands.
-std::string SpellingIn(const std::string& folder, const std::string& name)
+bool Exists(const std::string& path)
 {
     std::error_code error;
-    if (fs::exists(folder + name, error))
-        return name;
-    std::string found;
-    fs::directory_iterator entry(folder.empty() ? "." : folder, error);
-    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        const std::string entryName = entry->path().filename().native();
-        if (SameName(entryName, name) && (found.empty() || entryName < found))
-            found = entryName;
-    }
-    return found.empty() ? name : found;
+    return fs::exists(path, error);
 }
+
+// Looks for a path that may be spelled in another case than its files and folders are.
+class SpellingSearch {
+public:
+    // The spelling under which all of the path exists: the exact one of each name before the others, and these in byte
+    // order. Where there is none, that of as many leading names as exist.
+    std::string Find(const std::string& path)
+    {
+        Follow("", path);
+        return best;
+    }
+
+private:
+    // `spelled` may exist, `rest` comes after it. True ends the search: all exists, or it takes too long.
+    bool Follow(std::string spelled, std::string_view rest)
+    {
+        while (rest.starts_with('/')) {
+            spelled += '/';
+            rest.remove_prefix(1);
+        }
+        if (!spelled.empty() && !Exists(spelled))
+            return false;
+        if (rest.size() < missing) {
+            best = spelled + std::string(rest);
+            missing = rest.size();
+        }
+        const std::string name(rest.substr(0, rest.find('/')));
+        rest.remove_prefix(name.size());
+        if (name.empty() || Follow(spelled + name, rest))
+            return true;
+        for (const std::string& other : OtherSpellings(spelled, name))
+            if (Follow(spelled + other, rest))
+                return true;
+        return foldersLeft == 0;
+    }
+
+    // The names in the folder ("" or ending in a slash) that differ in case only.
+    std::vector<std::string> OtherSpellings(const std::string& folder, const std::string& name)
+    {
+        std::vector<std::string> names;
+        std::error_code error;
+        if (foldersLeft == 0)
+            return names;
+        --foldersLeft;
+        const std::string folded = FoldCase(name);
+        fs::directory_iterator entry(folder.empty() ? "." : folder, error);
+        for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+            std::string other = entry->path().filename().native();
+            if (other != name && FoldCase(other) == folded)
+                names.push_back(std::move(other));
+        }
+        std::ranges::sort(names);
+        return names;
+    }
+
+    std::string best;
+    size_t missing = std::string::npos; // how many bytes at the end of `best` do not exist
+    int foldersLeft = 200; // that may be read: links can make endlessly many
+};
 
 bool HasDriveLetter(std::string_view path)
 {
@@ -61,22 +110,14 @@ std::string ExactNativePath(std::string_view codePagePath)
 
 std::string NativePath(std::string_view codePagePath)
 {
-    std::string path = ExactNativePath(codePagePath);
-    std::error_code error;
-    if (path.empty() || fs::exists(path, error))
-        return path;
+    const std::string path = ExactNativePath(codePagePath);
+    return path.empty() || Exists(path) ? path : SpellingSearch().Find(path);
+}
 
-    std::string spelled;
-    for (size_t at = 0; at < path.size();) {
-        if (path[at] == '/') {
-            spelled += path[at++];
-            continue;
-        }
-        const size_t end = std::min(path.find('/', at), path.size());
-        spelled += SpellingIn(spelled, path.substr(at, end - at));
-        at = end;
-    }
-    return spelled;
+bool IsMisread(std::string_view nativePath)
+{
+    return nativePath.find('\\') != std::string_view::npos
+        || HasDriveLetter(nativePath.substr(nativePath.rfind('/') + 1));
 }
 
 std::optional<std::string> CodePagePath(std::string_view nativePath)
