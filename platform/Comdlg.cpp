@@ -63,6 +63,8 @@ void Refuse(HWND owner, const char* reason)
 // Why the program cannot take the file, or null.
 const char* ReasonAgainst(const fs::path& file, const OPENFILENAMEA& request, std::optional<std::string>& name)
 {
+    if (platform::IsMisread(file.native()))
+        return u8"檔案名稱不能以英文字母加冒號開頭, 路徑裡不能有反斜線, 請先更改名稱"_big5;
     std::error_code error;
     name = platform::CodePagePath(file.native());
     if (!name)
@@ -75,6 +77,8 @@ const char* ReasonAgainst(const fs::path& file, const OPENFILENAMEA& request, st
         return u8"這是資料夾, 請點選檔案"_big5;
     if ((request.Flags & OFN_FILEMUSTEXIST) != 0 && !fs::exists(file, error))
         return u8"找不到這個檔案"_big5;
+    if (platform::NativePath(*name) != file)
+        return u8"已經有只差大小寫的名稱, 請點選那個檔案或換一個名稱"_big5;
     return nullptr;
 }
 

@@ -58,9 +58,9 @@ TEST_F(FileDialogs, MoveTheCurrentFolderToTheChosenFile)
 
 TEST_F(FileDialogs, TakeANewNameWhereTheFileNeedNotExist)
 {
-    desktop.AnswerFileDialog(folder.Path() + "/new.tobrik");
+    desktop.AnswerFileDialog(folder.Path() + "/1:2.tobrik");
     EXPECT_TRUE(Ask(OFN_PATHMUSTEXIST));
-    EXPECT_EQ(path, Backslashed(folder.Path() + "/new.tobrik"));
+    EXPECT_EQ(path, Backslashed(folder.Path() + "/1:2.tobrik"));
     EXPECT_FALSE(desktop.FileDialogs()[0].mustExist);
     EXPECT_TRUE(desktop.MessageBoxes().empty());
 }
@@ -79,20 +79,26 @@ TEST_F(FileDialogs, LeaveEverythingAsItWasWhenCancelled)
 TEST_F(FileDialogs, RefuseWhatTheProgramCannotTake)
 {
     const std::string longName = std::string(120, 'x') + "/" + std::string(130, 'y') + ".bmp";
-    for (const std::string name : { "Image/堃.bmp", "Image/é/logo.bmp", "Image/\xFF.bmp" })
-        folder.Write(name, "");
-    folder.Write("Image/" + longName, "");
-    for (const std::string answer :
-        { "堃.bmp", "é/logo.bmp", "\xFF.bmp", longName.c_str(), "missing.bmp", "nowhere/logo.bmp", "é", "." }) {
-        const size_t before = desktop.MessageBoxes().size();
-        desktop.AnswerFileDialog(answer);
-        EXPECT_FALSE(Ask()) << answer;
-        EXPECT_STREQ(path, "");
-        EXPECT_EQ(fs::current_path(), folder.Path());
-        ASSERT_EQ(desktop.MessageBoxes().size(), before + 1) << answer;
-        EXPECT_EQ(desktop.MessageBoxes().back().caption, "無法使用檔名");
-        EXPECT_EQ(desktop.MessageBoxes().back().owner, owner);
-    }
+    for (const std::string name : { "堃.bmp", "é/logo.bmp", "\xFF.bmp", "a:b.bmp", "b.bmp", "a\\b.bmp", "c\\d/e.bmp",
+             "Logo.tobrik", "Dir/x.tobrik", "dir/y.tobrik", longName.c_str() })
+        folder.Write("Image/" + name, "");
+    const std::pair<std::string, std::vector<std::string>> refused[]
+        = { { "Big5 無法表示", { "堃.bmp", "é/logo.bmp", "\xFF.bmp" } },
+              { "冒號", { "a:b.bmp", "a\\b.bmp", "c\\d/e.bmp" } }, { "太長", { longName } },
+              { "找不到這個資料夾", { "nowhere/new.tobrik" } }, { "找不到這個檔案", { "new.bmp" } },
+              { "這是資料夾", { "dir", "." } }, { "只差大小寫", { "logo.tobrik", "Dir/y.tobrik" } } };
+    for (const auto& [reason, answers] : refused)
+        for (const std::string& answer : answers) {
+            const size_t before = desktop.MessageBoxes().size();
+            desktop.AnswerFileDialog(answer);
+            EXPECT_FALSE(Ask(OFN_PATHMUSTEXIST | (answer.ends_with(".bmp") ? OFN_FILEMUSTEXIST : 0))) << answer;
+            EXPECT_STREQ(path, "");
+            EXPECT_EQ(fs::current_path(), folder.Path());
+            ASSERT_EQ(desktop.MessageBoxes().size(), before + 1) << answer;
+            EXPECT_EQ(desktop.MessageBoxes().back().caption, "無法使用檔名");
+            EXPECT_NE(desktop.MessageBoxes().back().text.find(reason), std::string::npos) << answer;
+            EXPECT_EQ(desktop.MessageBoxes().back().owner, owner);
+        }
 }
 
 } // namespace
