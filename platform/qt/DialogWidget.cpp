@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 
 namespace platform {
 
@@ -86,8 +87,10 @@ void DialogWidget::FocusFirstControl()
         QWidget* widget = state.widgets.WidgetOf(control.get());
         if (!widget || !widget->isEnabled() || widget->focusPolicy() == Qt::NoFocus)
             continue;
-        const bool isField = control->kind == WindowKind::Edit;
-        widget->setFocus(isField ? Qt::TabFocusReason : Qt::OtherFocusReason); // the former selects the field's text
+        widget->setFocus();
+        if (auto* field
+            = control->kind == WindowKind::Edit ? qobject_cast<QLineEdit*>(widget) : widget->findChild<QLineEdit*>())
+            field->selectAll();
         return;
     }
 }

@@ -5,9 +5,14 @@
 #include "platform/qt/TextFields.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace platform {
 namespace {
@@ -28,11 +33,38 @@ QStringList TextsOf(const QComboBox& widget)
     return texts;
 }
 
-// However narrow the field, the list shows its items whole.
-void WidenList(QComboBox& widget)
+// The templates leave no room to spare beside a text: the arrow takes less of the field than the toolkit gives it.
+class NarrowArrow final : public QProxyStyle {
+public:
+    NarrowArrow()
+        : QProxyStyle(QApplication::style()->name())
+    {
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+        const QWidget* widget) const override
+    {
+        const QRect whole = option->rect;
+        if (control == CC_ComboBox && part == SC_ComboBoxArrow)
+            return { whole.right() + 1 - arrowWidth, whole.top(), arrowWidth, whole.height() };
+        if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+            return whole.adjusted(frameWidth, frameWidth, -arrowWidth, -frameWidth);
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    }
+
+private:
+    static constexpr int arrowWidth = 9;
+    static constexpr int frameWidth = 1;
+};
+
+// However narrow the field, the list shows its items whole; it opens to the height that the template gives the two
+// together.
+void FitList(QComboBox& widget, const Window& control)
 {
     QAbstractItemView& list = *widget.view();
     list.setMinimumWidth(list.sizeHintForColumn(0) + list.verticalScrollBar()->sizeHint().width());
+    const int height = control.openHeight - (control.place.bottom - control.place.top);
+    widget.setMaxVisibleItems(std::max(1, height / std::max(1, list.sizeHintForRow(0))));
 }
 
 void DropSelection(QComboBox& widget)
@@ -55,7 +87,10 @@ QComboBox* MakeDropDown(Window& control, QWidget& parent, DesktopState& state)
     widget->setEditable(true);
     widget->setInsertPolicy(QComboBox::NoInsert);
     widget->setCompleter(nullptr);
-    widget->lineEdit()->setTextMargins(-3, 0, -3, 0); // the templates leave no room to spare beside the arrow
+    auto* style = new NarrowArrow;
+    style->setParent(widget);
+    widget->setStyle(style);
+    widget->lineEdit()->setTextMargins(-1, 0, -2, 0);
     // A text that happens to be an item's does not choose that item when the field is left.
     QObject::disconnect(widget->lineEdit(), &QLineEdit::editingFinished, widget, nullptr);
     QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, widget, [&control, &state, widget] {
@@ -80,7 +115,7 @@ void MirrorDropDown(QComboBox& widget, const Window& control)
     if (otherItems) {
         widget.clear();
         widget.addItems(items);
-        WidenList(widget);
+        FitList(widget, control);
     }
     const bool otherSelection = otherItems || widget.currentIndex() != control.selection;
     if (otherSelection)

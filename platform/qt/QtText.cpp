@@ -2,6 +2,7 @@
 
 #include "platform/CodePage.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
 
@@ -25,11 +26,18 @@ QString WithoutShortcut(QString caption)
 QFont DialogFont()
 {
     QFont font;
+    // The face's outlines are thin, and grey "l" and "1" look alike; its hand-made bitmaps do not, but they are for
+    // displays whose pixels are the window's.
+    if (qApp->devicePixelRatio() == 1) {
+        font.setStyleStrategy(QFont::NoAntialias);
+        font.setHintingPreference(QFont::PreferFullHinting); // every half-width cell as wide as its bitmap
+    }
     const QString family = QStringLiteral("AR PL UMing TW");
     if (QFontDatabase::hasFamily(family))
         font.setFamily(family);
-    // At 15 pixels an em the half-width cell is 8 wide already, and no dialog's label runs under the field beside it.
-    int size = 15;
+    // At 14 pixels an em the half-width cell is 7 wide: no dialog's label runs under the field beside it, and each
+    // drop-down has room for its text and an arrow.
+    int size = 14;
     font.setPixelSize(size);
     for (; size > 10 && QFontMetrics(font).height() > 16; --size)
         font.setPixelSize(size - 1);

@@ -15,7 +15,7 @@ std::string CodePageFromText(const QString& text);
 // For captions in which the toolkit would take "&" for the mark of a shortcut.
 QString WithoutShortcut(QString caption);
 
-// The font of dialogs, buttons and boxes: a cell 16 pixels high at most, 8 wide for a half-width character.
+// The font of dialogs, buttons and boxes: a cell 16 pixels high at most, 7 wide for a half-width character.
 QFont DialogFont();
 
 } // namespace platform

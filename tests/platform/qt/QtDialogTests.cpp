@@ -1,12 +1,14 @@
 #include "platform/Big5Literal.h"
 #include "tests/platform/qt/QtProgram.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 
 namespace {
 
@@ -39,6 +41,7 @@ TEST_F(QtDialogs, ShowAQuestionMarkForWhatTheCodePageCannotSpell)
 TEST_F(QtDialogs, RefuseAllButDigitsAndTypingIntoDisplays)
 {
     WorkInDialog({ [this] {
+        EXPECT_EQ(InDialog<QLineEdit>(Name).selectedText(), QStringLiteral("Ann")) << "the first field's";
         QTest::keyClicks(&InDialog<QLineEdit>(Age), "1a-2");
         Commit(InDialog<QLineEdit>(Age), QStringLiteral("三"));
         EXPECT_EQ(TextOf(AgeField), "12");
@@ -74,6 +77,33 @@ TEST_F(QtDialogs, DropTheSelectionOfADropDownThatIsTypedInto)
         EXPECT_EQ(list.currentText(), QStringLiteral("red"));
         EXPECT_EQ(TextOf(ColourList), "red");
     } });
+}
+
+TEST_F(QtDialogs, ShowADropDownsTextWholeAndItsListInTheTemplatesHeight)
+{
+    WorkInDialog({ [this] {
+        SetWindowTextA(GetDlgItem(dialog, ColourList), u8"切成 16 段"_big5);
+        QLineEdit& field = *InDialog<QComboBox>().lineEdit();
+        const auto cursor = [&field] { return field.inputMethodQuery(Qt::ImCursorRectangle).toRect().x(); };
+        field.home(false);
+        const int left = cursor();
+        field.end(false); // what is too wide for the field slides to the left here
+        EXPECT_EQ(cursor() - left, QFontMetrics(field.font()).horizontalAdvance(field.text()));
+        InDialog<QComboBox>().showPopup();
+        const QAbstractItemView& view = *InDialog<QComboBox>().view();
+        EXPECT_EQ(view.viewport()->height() / view.sizeHintForRow(0), 2) << "30 units less the field";
+    } });
+}
+
+TEST_F(QtDialogs, ShowTheFacesOwnBlackBitmapsWhereAPixelIsAPixel)
+{
+    QImage letters(40, 20, QImage::Format_RGB32);
+    letters.fill(Qt::white);
+    QPainter painter(&letters);
+    painter.setFont(QApplication::font());
+    painter.drawText(0, 15, QStringLiteral("l1段"));
+    EXPECT_EQ(letters.convertToFormat(QImage::Format_Indexed8).colorCount(), 2);
+    EXPECT_NE(letters.copy(0, 0, 8, 20), letters.copy(8, 0, 8, 20));
 }
 
 TEST_F(QtDialogs, ShowTheProgramsChangesAndReportClicks)

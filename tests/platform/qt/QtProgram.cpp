@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QWindow>
 
 #include <map>
@@ -22,7 +23,7 @@ constexpr platform::DialogControl controls[] = {
     { Edit, NameField, "", 40, 4, 50, 14 },
     { .kind = Edit, .id = AgeField, .text = "", .x = 40, .y = 20, .width = 50, .height = 14, .digitsOnly = true },
     { .kind = Edit, .id = TownField, .text = "", .x = 40, .y = 36, .width = 50, .height = 14, .displayOnly = true },
-    { DropDown, ColourList, "", 5, 52, 40, 30 },
+    { DropDown, ColourList, "", 5, 52, 41, 30 },
     { CheckBox, LoudBox, "大聲", 5, 70, 40, 10 },
     { PushButton, DoneButton, "確定", 50, 70, 40, 14 },
 };
@@ -61,9 +62,10 @@ class DesktopEnvironment final : public testing::Environment {
 public:
     void SetUp() override
     {
+        const QByteArray folder = settings.path().toUtf8();
         const std::pair<const char*, const char*> surroundings[]
             = { { "QT_QPA_PLATFORM", "offscreen" }, { "QT_QPA_PLATFORMTHEME", "" }, { "QT_STYLE_OVERRIDE", "Fusion" },
-                  { "QT_SCALE_FACTOR", "1" }, { "LANG", "C.UTF-8" } };
+                  { "QT_SCALE_FACTOR", "1" }, { "LANG", "C.UTF-8" }, { "XDG_CONFIG_HOME", folder.constData() } };
         for (const auto& [variable, value] : surroundings)
             qputenv(variable, value);
         desktop = std::make_unique<WorkedDesktop>("platform_qt_tests");
@@ -76,6 +78,7 @@ public:
     }
 
 private:
+    const QTemporaryDir settings;
     std::unique_ptr<platform::QtDesktop> desktop;
 };
 
@@ -163,6 +166,7 @@ INT_PTR QtProgram::DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPA
 {
     running->dialog = dialog;
     if (message == WM_INITDIALOG) {
+        SetWindowTextA(GetDlgItem(dialog, NameField), "Ann");
         for (const char* colour : { "red", "green", "blue" })
             SendMessageA(GetDlgItem(dialog, ColourList), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(colour));
         SendMessageA(GetDlgItem(dialog, ColourList), CB_SETCURSEL, 0, 0);
