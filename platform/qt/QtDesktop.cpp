@@ -12,6 +12,7 @@
 #include <QCursor>
 #include <QLibraryInfo>
 #include <QScreen>
+#include <QSettings>
 #include <QTranslator>
 
 #include <clocale>
@@ -45,6 +46,8 @@ std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
     toolkitsOwnHandler = qInstallMessageHandler(EndWithoutDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(toolkitsOwnHandler);
+    // The file chooser would leave its last folders and its columns in a settings file; nothing can be written here.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     // The user's locale must not reach the numbers in files.
     std::setlocale(LC_NUMERIC, "C");
     QGuiApplication::setDesktopFileName(QStringLiteral("tobrik"));

@@ -7,11 +7,14 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSpacerItem>
+#include <QTreeView>
 
 #include <memory>
 
@@ -43,6 +46,22 @@ template <typename Widget> void RunUntilClosed(const Question<Widget>& question)
     RunModalLoop([&question] { return !question.IsOpen(); });
 }
 
+// The toolkit leaves room for an icon at the left of a box's text.
+void EvenMargins(QMessageBox& box)
+{
+    auto* layout = qobject_cast<QGridLayout*>(box.layout());
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!layout || !label)
+        return;
+    for (int i = 0; i < layout->count(); ++i)
+        if (QSpacerItem* indent = layout->itemAt(i)->spacerItem())
+            indent->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    label->setContentsMargins(0, 0, 0, 0);
+    label->setIndent(0);
+    layout->removeWidget(label);
+    layout->addWidget(label, 0, 0, 1, layout->columnCount());
+}
+
 // A box is as wide as its text needs; its caption needs room for the frame's buttons besides.
 void WidenForCaption(QMessageBox& box, const QString& caption)
 {
@@ -63,11 +82,23 @@ int AskMessageBox(QWidget* owner, const QString& text, const QString& caption)
     box->setText(text);
     // The button keeps its caption whatever language the desktop speaks.
     box->setDefaultButton(box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole));
+    EvenMargins(*box.operator->());
     WidenForCaption(*box.operator->(), caption);
     box->setWindowModality(Qt::ApplicationModal);
     box->show();
     RunUntilClosed(box);
     return IDOK;
+}
+
+// Sizes, kinds and dates stand whole; the names have what is left.
+void ShowWholeColumns(const QFileDialog& chooser)
+{
+    const auto* list = chooser.findChild<QTreeView*>();
+    if (!list)
+        return;
+    list->header()->setStretchLastSection(false);
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 // Either mouse button chooses.
@@ -93,11 +124,13 @@ std::optional<std::string> AskFile(QWidget* owner, const FileRequest& request)
     chooser->setAcceptMode(QFileDialog::AcceptOpen);
     chooser->setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     chooser->setWindowModality(Qt::ApplicationModal);
-    // The dialogs' own font would do for its captions, but not for file names: "l" and "1" look alike in it.
+    // The dialogs' own font would do for its captions, but not for file names: "l" and "1" look alike in its outlines.
     chooser->setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     // What was typed is what is taken: a list of completions, which comes late on a slow disk, would take the Return.
     for (QLineEdit* field : chooser->findChildren<QLineEdit*>())
         field->setCompleter(nullptr);
+    chooser->resize(760, 480);
+    ShowWholeColumns(*chooser.operator->());
     chooser->show();
     RunUntilClosed(chooser);
     if (!chooser.Exists() || chooser->result() != QDialog::Accepted || chooser->selectedFiles().isEmpty())

@@ -1,12 +1,17 @@
 #include "platform/Big5Literal.h"
+#include "platform/Comdlg.h"
 #include "tests/platform/qt/QtProgram.h"
 
 #include <QApplication>
 #include <QCursor>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
+
+#include <filesystem>
 
 namespace {
 
@@ -21,6 +26,7 @@ TEST_F(QtQuestions, ShowABoxsTextAsItIs)
         EXPECT_EQ(label->textFormat(), Qt::PlainText);
         EXPECT_EQ(box.buttons().size(), 1);
         EXPECT_EQ(box.buttons().front()->text(), QStringLiteral("OK"));
+        EXPECT_EQ(label->x() + label->indent(), box.width() - label->geometry().right() - 1);
         EXPECT_GT(box.width(), 30 * 15 + 100); // the caption and the frame's buttons
         QTest::keyClick(&box, Qt::Key_Return);
     } });
@@ -63,6 +69,23 @@ TEST_F(QtQuestions, LetEitherButtonChooseFromAMenu)
         TrackPopupMenu(menu, TPM_RIGHTBUTTON, 70, 80, 0, window, nullptr);
         EXPECT_EQ(TakeLog(), Log({ "command 12" }));
     }
+}
+
+TEST_F(QtQuestions, ShowFilesInWholeColumnsAndLeaveNoSettingsBehind)
+{
+    WhileModal({ [] {
+        EXPECT_EQ(QApplication::activeModalWidget()->width(), 760);
+        const auto* list = QApplication::activeModalWidget()->findChild<QTreeView*>();
+        EXPECT_LE(list->header()->length(), list->viewport()->width());
+        for (int column = 0; column < list->header()->count(); ++column)
+            EXPECT_GE(
+                list->columnWidth(column), static_cast<const QAbstractItemView*>(list)->sizeHintForColumn(column));
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    } });
+    char name[260] = {};
+    OPENFILENAMEA request { .hwndOwner = window, .lpstrFile = name, .nMaxFile = sizeof name };
+    EXPECT_FALSE(GetOpenFileNameA(&request));
+    EXPECT_TRUE(std::filesystem::is_empty(qgetenv("XDG_CONFIG_HOME").toStdString()));
 }
 
 } // namespace
