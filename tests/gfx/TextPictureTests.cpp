@@ -62,6 +62,12 @@ TEST(TextPictures, AreMissingForTextsWithoutASize)
         EXPECT_FALSE(TextPicture(text));
     for (const int spacing : { -1000, 40000, std::numeric_limits<int>::max() })
         EXPECT_FALSE(TextPicture("ab", spacing));
+    const HDC context = CreateCompatibleDC(nullptr);
+    SIZE measured {};
+    ASSERT_TRUE(GetTextExtentPoint32A(context, "a", 1, &measured));
+    DeleteDC(context);
+    EXPECT_EQ(TextPicture("a", 65532 - measured.cx)->width, 65532); // the widest
+    EXPECT_FALSE(TextPicture("a", 65533 - measured.cx));
     EXPECT_TRUE(TextPicture("\xA4")); // half a character
     EXPECT_TRUE(TextPicture(std::string(259, 'W').c_str()));
 }

@@ -3,7 +3,10 @@
 
 #include <tuple>
 
-using ButtonObjectTest = ObjectTest;
+class ButtonObjectTest : public ObjectTest {
+protected:
+    ButtonObject button;
+};
 
 TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
 {
@@ -13,19 +16,19 @@ TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
               { "narrow.bmp", { 3, 2 }, 16, { 0, 2 } }, { "whole.bmp", { 9, 2 }, 0, { 9, 2 } } };
     for (const auto& [name, picture, sections, section] : cases) {
         WriteStrip(name, picture, 1);
-        ButtonObject button;
-        ASSERT_TRUE(Load(button, name));
-        button.SetSections(sections);
-        EXPECT_EQ(button.GetSize(), section) << name;
-        EXPECT_TRUE(button.Load() && Draw(button)) << name;
-        EXPECT_EQ(button.GetView(), section) << name;
+        ButtonObject cut;
+        ASSERT_TRUE(Load(cut, name));
+        cut.SetSections(sections);
+        EXPECT_EQ(cut.GetSize(), section) << name;
+        EXPECT_TRUE(cut.Load()) << name;
+        EXPECT_TRUE(Draw(cut)) << name;
+        EXPECT_EQ(cut.GetView(), section) << name;
     }
 }
 
 TEST_F(ButtonObjectTest, FollowsTheMouseAndShowsItsLastSectionForAMissingLook)
 {
     WriteStrip("button.bmp", { 10, 20 }, 2);
-    ButtonObject button;
     button.SetSections(2);
     ASSERT_TRUE(Load(button, "button.bmp"));
     button.SetView({ 10, 5 }); // the cut of a fitting is hit all the same
@@ -41,5 +44,29 @@ TEST_F(ButtonObjectTest, FollowsTheMouseAndShowsItsLastSectionForAMissingLook)
         EXPECT_EQ(button.GetSection(), look);
         Draw(button);
         EXPECT_EQ(Count(SectionColor(std::min(look, 1))), 50);
+    }
+    EXPECT_FALSE(Load(button, "missing.bmp"));
+    EXPECT_FALSE(button.HandleMessage(MsgLeftDown, 0, in)); // unloaded
+    EXPECT_EQ(button.GetSection(), 0);
+}
+
+TEST_F(ButtonObjectTest, ShowsWhatTheFittingLeavesOfASectionWithItsAlpha)
+{
+    for (const auto& [name, size] : { std::pair("wide.bmp", vec(12, 3)), { "stacked.bmp", vec(3, 12) } }) {
+        WriteStrip(name, size, 12);
+        button.Reset();
+        button.SetSections(3);
+        ASSERT_TRUE(Load(button, name));
+        button.SetSrc({ 2, 2 });
+        button.SetView({ 1, 1 });
+        for (const auto& [msg, look] : { std::pair(MsgLeftUp, 0), { MsgMouseMove, 1 }, { MsgLeftDown, 2 } }) {
+            button.HandleMessage(msg, 0, Pointer(3, 3));
+            Draw(button);
+            EXPECT_EQ(Count(SectionColor(4 * look + 2)), 1) << name;
+            EXPECT_EQ(Drawn(), 1) << name;
+        }
+        button.SetAlpha(7);
+        Draw(button);
+        EXPECT_EQ(Drawn(), 0);
     }
 }

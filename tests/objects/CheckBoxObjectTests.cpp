@@ -1,36 +1,70 @@
 #include "objects/CheckBoxObject.h"
 #include "tests/objects/ObjectTest.h"
 
-using CheckBoxObjectTest = ObjectTest;
+#include <tuple>
 
-TEST_F(CheckBoxObjectTest, TogglesOnItsBoxAloneAndShowsItsState)
-{
-    WriteStrip("ro_chkbox.bmp", { 16, 64 }, 4);
+class CheckBoxObjectTest : public ObjectTest {
+protected:
+    void Build(vec boxStrip)
+    {
+        WriteStrip("ro_chkbox.bmp", boxStrip, 4);
+        checkBox.SetLabelText("label");
+        EXPECT_TRUE(checkBox.Build());
+        checkBox.SetPos({ 100, 50 });
+    }
+    // Shows its box in the section of that state and in no other.
+    void ExpectLook(int32_t state)
+    {
+        EXPECT_TRUE(Draw(checkBox));
+        for (const int32_t section : { 0, 1, 2, 3 })
+            EXPECT_EQ(Count(SectionColor(section)), section == state ? 256 : 0);
+        EXPECT_EQ(checkBox.IsEnabled(), state != 3);
+    }
+
     CheckBoxObject checkBox;
-    checkBox.SetLabelText("label");
-    ASSERT_TRUE(checkBox.Build() && Draw(checkBox));
-    EXPECT_EQ(Count(SectionColor(0)) + Count(SectionColor(1)), 256);
-    EXPECT_EQ(checkBox.GetSize(), vec(21 + checkBox.GetLabelSize().x, 16));
-    EXPECT_TRUE(checkBox.HitTest(checkBox.GetSize(), {}));
-    for (const auto& [press, state] : { std::pair(vec(25, 5), 0), { { 16, 16 }, 1 }, { { 0, 0 }, 0 } }) {
-        EXPECT_FALSE(checkBox.HandleMessage(MsgLeftDown, 0, Pointer(press.x, press.y)));
-        Draw(checkBox);
-        EXPECT_EQ(Count(SectionColor(state)), 256);
-        EXPECT_GT(Count(blue), 20);
+};
+
+TEST_F(CheckBoxObjectTest, TogglesByALeftPressOnItsBoxAlone)
+{
+    Build({ 16, 64 });
+    ExpectLook(0);
+    EXPECT_EQ(canvas[50 * ScreenWidth + 100], SectionColor(0));
+    const auto label = std::find(canvas.begin() + 57 * ScreenWidth, canvas.end(), blue);
+    EXPECT_GE((label - canvas.begin()) % ScreenWidth, 121);
+    const std::tuple<ObjectMessage, vec, int32_t> steps[] = { { MsgLeftDown, { 116, 66 }, 1 },
+        { MsgLeftUp, { 110, 60 }, 1 }, { MsgMouseMove, { 110, 60 }, 1 }, { MsgRightDown, { 110, 60 }, 1 },
+        { MsgLeftDown, { 117, 60 }, 1 }, { MsgLeftDown, { 0, 0 }, 1 }, { MsgLeftDown, { 100, 50 }, 0 } };
+    for (const auto& [msg, point, state] : steps) {
+        EXPECT_TRUE(checkBox.HitTest({ 130, 60 }, {})); // which gives the box the label's width
+        EXPECT_FALSE(checkBox.HandleMessage(msg, 0, Pointer(point.x, point.y)));
+        ExpectLook(state);
     }
     checkBox.SetEnabled(false);
-    checkBox.SetPos({ 799, 599 });
-    checkBox.HandleMessage(MsgLeftDown, 0, Pointer(799, 599));
-    Draw(checkBox);
-    EXPECT_EQ(Count(SectionColor(3)), 1);
+    checkBox.HandleMessage(MsgLeftDown, 0, Pointer(110, 60));
+    ExpectLook(3);
+    checkBox.SetEnabled(true);
+    ExpectLook(0);
+}
+
+TEST_F(CheckBoxObjectTest, IsHitOnBoxGapAndLabelAndUnderTheBoxWhereTheLabelIsHigher)
+{
+    Build({ 8, 32 });
+    const int32_t width = 13 + checkBox.GetLabelSize().x;
+    EXPECT_EQ(checkBox.GetView(), vec(width, 8));
+    for (const auto& [point, hit] : { std::pair(vec(10, 8), true), { { 12, 9 }, false }, { { 13, 14 }, true },
+             { { 13, 15 }, false }, { { width, 8 }, true }, { { width + 1, 5 }, false } })
+        EXPECT_EQ(checkBox.HitTest(vec(100, 50) + point, {}), hit) << point;
 }
 
 TEST_F(CheckBoxObjectTest, LivesWithoutItsBoxPictureAndVanishesWithItsLabel)
 {
-    CheckBoxObject checkBox;
     checkBox.SetLabelText("label");
-    EXPECT_TRUE(checkBox.Build() && !checkBox.HitTest({ 4, 0 }, {}) && checkBox.HitTest({ 5, 0 }, {}));
-    EXPECT_TRUE(Draw(checkBox) && Count(blue) > 20);
+    EXPECT_TRUE(checkBox.Build());
+    EXPECT_FALSE(checkBox.HitTest({ 4, 0 }, {}));
+    EXPECT_TRUE(Draw(checkBox));
+    EXPECT_GT(Count(blue), 20);
     checkBox.SetLabelText("");
-    EXPECT_FALSE(checkBox.Build() || Draw(checkBox) || checkBox.HitTest({ 5, 0 }, {}));
+    EXPECT_FALSE(checkBox.Build());
+    EXPECT_FALSE(Draw(checkBox));
+    EXPECT_FALSE(checkBox.HitTest({ 5, 0 }, {}));
 }

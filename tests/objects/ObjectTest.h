@@ -4,6 +4,7 @@
 #include "platform/headless/HeadlessDesktop.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/VecPrinting.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +42,7 @@ protected:
         return object.Draw(canvas.data(), 2 * ScreenWidth);
     }
     ptrdiff_t Count(uint16_t color) const { return std::count(canvas.begin(), canvas.end(), color); }
+    ptrdiff_t Drawn() const { return std::ssize(canvas) - Count(untouched); }
 
     platform::HeadlessDesktop desktop;
     TemporaryFolder folder;

@@ -10,7 +10,7 @@ namespace {
 using Place = std::tuple<vec, vec, vec>; // pos, src, view
 using Places = std::vector<Place>;
 
-// Has no picture, is hit in its whole rectangle, and notes where it was drawn.
+// Has no picture, is hit in its whole rectangle, and notes where it was drawn or got a message.
 class Fake : public PictureObject {
 public:
     Fake(vec place, vec extent, Places& noted)
@@ -22,6 +22,7 @@ public:
     static Place PlaceOf(const ScreenObject& object) { return { object.GetPos(), object.GetSrc(), object.GetView() }; }
     bool Draw(uint16_t*, int32_t) override { return drawings.push_back(PlaceOf(*this)), true; }
     bool HitTest(vec point, vec) override { return CoversPoint(pos, view, point); }
+    bool HandleMessage(ObjectMessage, uint32_t, uint32_t) override { return drawings.push_back(PlaceOf(*this)), true; }
 
 private:
     Places& drawings;
@@ -65,25 +66,23 @@ TEST_F(ScreenDocumentTest, MovesObjectsThroughTheLayersAndClosesTheGapOfARemoved
 
 TEST_F(ScreenDocumentTest, GoesToAnEndAsByStepsAlsoOverMissingAndSharedLayers)
 {
-    const std::vector<int32_t> cases[] = { { 0, 1, 2, 3, 4 }, { 3, 1, 4, 0, 2 }, { 0, 0, 1, 2, 3 }, { 2, 1, 2, 3, 1 },
-        { 0, 1, 9, 3, 4 }, { 7, 5, 6, 4, -1 }, { 1, 3, 2, 0, 3 } };
-    for (const std::vector<int32_t>& layers : cases)
-        for (const int32_t moved : { 0, 1, 2, 3, 4, 5 })
-            for (const bool down : { false, true }) {
-                std::vector<int32_t> ends[2];
-                for (std::vector<int32_t>& end : ends) {
-                    document.Clear();
-                    for (const int32_t layer : layers)
-                        Add({ 0, 0 }).SetLayer(layer);
-                    if (&end == &ends[0])
-                        document.MoveToEnd(moved, down);
-                    else
-                        while (document.MoveLayer(moved, down)) { }
-                    for (const auto& object : document.GetObjects())
-                        end.push_back(object->GetLayer());
-                }
-                EXPECT_EQ(ends[0], ends[1]) << moved << (down ? " down" : " up");
+    const std::vector<int32_t> cases[]
+        = { { 3, 1, 4, 0, 2 }, { 0, 0, 1, 2, 3 }, { 0, 1, 9, 3, 4 }, { 7, 5, 6, 4, -1 } };
+    for (int32_t move = 0; move < 12; ++move)
+        for (const std::vector<int32_t>& layers : cases) {
+            std::vector<int32_t> ends[2];
+            for (const bool byStep : { false, true }) {
+                document.Clear();
+                for (const int32_t layer : layers)
+                    Add({ 0, 0 }).SetLayer(layer);
+                while (byStep && document.MoveLayer(move / 2, move % 2 == 0)) { }
+                if (!byStep)
+                    document.MoveToEnd(move / 2, move % 2 == 0);
+                for (const auto& object : document.GetObjects())
+                    ends[byStep].push_back(object->GetLayer());
             }
+            EXPECT_EQ(ends[0], ends[1]) << move;
+        }
 }
 
 TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCentreStrictlyInside)
@@ -91,11 +90,27 @@ TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCe
     Add({ 0, 0 });
     Add({ 40, 30 });
     int32_t index = 7;
-    EXPECT_TRUE(document.FindObjectAt({ 50, 40 }, index) && index == 1);
-    EXPECT_TRUE(document.FindObjectAt({ 39, 40 }, index) && index == 0);
-    EXPECT_FALSE(document.FindObjectAt({ 91, 40 }, index) || index != -1);
+    Add({ 750, 560 });
+    const std::pair<vec, int32_t> cases[]
+        = { { { 50, 40 }, 1 }, { { 39, 40 }, 0 }, { { 91, 40 }, -1 }, { { 800, 600 }, 2 }, { { 801, 600 }, -1 } };
+    for (const auto& [point, found] : cases) {
+        EXPECT_EQ(document.FindObjectAt(point, index), found >= 0) << point;
+        EXPECT_EQ(index, found) << point;
+    }
+    document.Dispatch(MsgMouseMove, 0, 0); // to all in list order, whatever they answer
+    EXPECT_EQ(drawings.size(), 3U);
+    EXPECT_EQ(std::get<0>(drawings.back()), vec(750, 560));
+    const auto& objects = document.GetObjects();
+    objects[0]->SetLayer(1); // a tie: the first in the list
+    EXPECT_FALSE(document.FindObjectAt({ 91, 40 }, index));
+    EXPECT_TRUE(document.FindObjectAt({ 45, 35 }, index));
+    EXPECT_EQ(index, 0);
+    objects[1]->SetLayer(0);
+    objects[0]->SetLayer(7); // a gap ends the search
+    EXPECT_FALSE(document.FindObjectAt({ 60, 50 }, index));
+    EXPECT_EQ(index, -1);
     for (const vec a : { vec(39, 29), vec(64, 29), vec(64, 49), vec(39, 49) })
-        EXPECT_TRUE(document.IsObjectInRect(1, a, a + vec(27, 22))) << a.x << ", " << a.y;
+        EXPECT_TRUE(document.IsObjectInRect(1, a, a + vec(27, 22))) << a;
     for (const auto& [a, b] : { std::pair(vec(64, 50), vec(91, 71)), { { 39, 29 }, { 65, 71 } } })
         EXPECT_FALSE(document.IsObjectInRect(1, a, b)); // the centre is on the edge
     EXPECT_FALSE(document.IsObjectInRect(1, { 41, 31 }, { 89, 69 })); // no corner
@@ -114,9 +129,9 @@ TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackground
     animation.SetBoundaryCheck(true); // of no effect on an animation
     animation.SetInterval(0);
     animation.Play();
-    document.AddBackground(std::make_unique<Fake>(vec(0, 0), vec(900, 700), drawings));
+    document.AddBackground(std::make_unique<Fake>(vec(-10, 590), vec(900, 700), drawings));
 
-    const Place background { { 0, 0 }, { 0, 0 }, { 800, 600 } };
+    const Place background { { 0, 590 }, { 10, 0 }, { 800, 10 } }; // cut, not pushed back
     const Places fitted { { { 0, 1 }, { 5, 0 }, { 45, 40 } }, { { 0, 2 }, { 0, 0 }, { 50, 40 } },
         { { 750, 0 }, { 0, 0 }, { 50, 50 } } };
     const auto& objects = document.GetObjects();
@@ -152,7 +167,7 @@ TEST_F(ScreenDocumentTest, CutsAtTheEdgesOrPushesBackInside)
         ScreenObject& object = Add(pos, EffectNone, size);
         object.SetSrc(src);
         document.ClipObject(object, keepInside);
-        EXPECT_EQ(Fake::PlaceOf(object), fitted) << keepInside << " at " << pos.x << ", " << pos.y;
+        EXPECT_EQ(Fake::PlaceOf(object), fitted) << keepInside << " at " << pos;
     }
 }
 
@@ -169,7 +184,9 @@ TEST_F(ScreenDocumentTest, SlidesObjectsInFromEachSide)
         Add(pos, effect).SetSrc(src);
         document.StartEffect(document.GetObjectCount() - 1);
         const EffectRecord& record = document.GetEffects().back();
-        EXPECT_TRUE(record.start == start && record.delta == delta && record.end == pos - src) << effect;
+        EXPECT_EQ(record.start, start) << effect;
+        EXPECT_EQ(record.delta, delta) << effect;
+        EXPECT_EQ(record.end, pos - src) << effect;
         EXPECT_EQ(record.steps, steps) << effect;
     }
 }
@@ -180,9 +197,11 @@ TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameAndEndsWhereTheObjec
     ScreenObject& object = Add({ 770, 203 }, EffectFromTop);
     object.SetBoundaryCheck(true); // holds before and after, not on the way
     document.StartEffect(0);
+    EXPECT_EQ(document.GetEffects()[0].lastTick, 0xFFFFFFF0);
     document.StartEffect(0);
     EXPECT_TRUE(Frame(19).empty());
     EXPECT_EQ(Frame(1), (Places { { { 770, 0 }, { 0, 40 }, { 30, 0 } } }));
+    EXPECT_EQ(document.GetEffects()[0].lastTick, 4U);
     EXPECT_TRUE(Frame(5).empty());
     for (int32_t step = 1; step <= 24; ++step) {
         EXPECT_EQ(Frame(100).size(), 1U);
