@@ -1,6 +1,6 @@
 #include "objects/AppearanceEffects.h"
 
-#include "objects/ScreenDocument.h"
+#include "objects/ClipObject.h"
 #include "platform/Kernel.h"
 
 #include <algorithm>
@@ -50,92 +50,105 @@ void PlanSlide(EffectRecord& record, const ScreenObject& object, vec canvasSize)
     }
 }
 
+bool IsDue(const EffectRecord& record, uint32_t now)
+{
+    return static_cast<double>(now - record.lastTick) >= static_cast<double>(record.interval);
+}
+
 } // namespace
 
-void ScreenDocument::StartEffect(int32_t index)
+void AppearanceEffects::OnObjectAdded()
 {
-    ScreenObject* object = nullptr;
-    if (!GetObject(index, object) || object->GetEffect() == EffectNone || object->GetEffectRunning())
-        return;
+    places.push_back(-1);
+}
+
+void AppearanceEffects::OnObjectRemoved(int32_t index)
+{
+    Drop(index);
+    places.erase(places.begin() + index);
+    for (EffectRecord& record : records) {
+        if (record.index > index)
+            --record.index;
+    }
+}
+
+void AppearanceEffects::Clear()
+{
+    records.clear();
+    places.clear();
+}
+
+// A record that somebody else's SetEffectRunning(false) has left behind makes room.
+void AppearanceEffects::Start(int32_t index, ScreenObject& object)
+{
+    Drop(index);
     EffectRecord record;
     record.index = index;
-    record.effectKind = object->GetEffect();
-    record.end = object->GetPos() - object->GetSrc();
+    record.effectKind = object.GetEffect();
+    record.end = object.GetPos() - object.GetSrc();
     record.lastTick = GetTickCount();
-    object->SetEffectRunning(true);
-    PlanSlide(record, *object, canvasSize);
-    KeepEffect(record);
+    object.SetEffectRunning(true);
+    PlanSlide(record, object, canvasSize);
+    places[static_cast<size_t>(index)] = static_cast<int32_t>(records.size());
+    records.push_back(record);
 }
 
-// An object has one record at most.
-void ScreenDocument::KeepEffect(const EffectRecord& record)
+void AppearanceEffects::Step(int32_t index, ScreenObject& object, uint16_t* canvas, int32_t pitch)
 {
-    DropEffect(record.index);
-    effectPlaces[static_cast<size_t>(record.index)] = static_cast<int32_t>(effects.size());
-    effects.push_back(record);
-}
-
-// The last record takes the free place.
-void ScreenDocument::DropEffect(int32_t index)
-{
-    int32_t& place = effectPlaces[static_cast<size_t>(index)];
-    if (place < 0)
-        return;
-    EffectRecord& dropped = effects[static_cast<size_t>(place)];
-    dropped = effects.back();
-    effectPlaces[static_cast<size_t>(dropped.index)] = place;
-    effects.pop_back();
-    place = -1;
-}
-
-void ScreenDocument::StepEffect(int32_t index)
-{
-    ScreenObject* object = nullptr;
-    if (!GetObject(index, object))
-        return;
-    const int32_t place = effectPlaces[static_cast<size_t>(index)];
+    const int32_t place = places[static_cast<size_t>(index)];
     if (place < 0) {
-        object->SetEffectRunning(false);
+        object.SetEffectRunning(false);
         return;
     }
-    EffectRecord* const record = &effects[static_cast<size_t>(place)];
+    EffectRecord& record = records[static_cast<size_t>(place)];
     const uint32_t now = GetTickCount();
-    if (static_cast<double>(now - record->lastTick) < static_cast<double>(record->interval))
+    if (!IsDue(record, now))
         return;
-    record->lastTick = now;
+    record.lastTick = now;
 
-    if (record->step > record->steps || record->effectKind == EffectNone) {
-        PutAtEnd(*object, *record);
-        object->Draw(canvas.get(), pitch);
-        DropEffect(index);
+    if (record.step > record.steps || record.effectKind == EffectNone) {
+        PutAtEnd(object, record);
+        object.Draw(canvas, pitch);
+        Drop(index);
         return;
     }
     // Fading out has no motion and no end: the object stays hidden while its record lives.
-    if (record->effectKind == EffectFadeOut)
+    if (record.effectKind == EffectFadeOut)
         return;
     // At a position of exactly 0 the cut of the step before stays, as in every fitting.
-    object->SetPos(record->start + record->delta * record->step);
-    ClipObject(*object, false);
-    object->Draw(canvas.get(), pitch);
-    ++record->step;
+    object.SetPos(record.start + record.delta * record.step);
+    ClipObject(object, false, canvasSize);
+    object.Draw(canvas, pitch);
+    ++record.step;
 }
 
-void ScreenDocument::FinishEffects()
+void AppearanceEffects::FinishAll(const std::vector<std::unique_ptr<ScreenObject>>& objects)
 {
-    for (const EffectRecord& record : effects) {
-        ScreenObject* object = nullptr;
-        if (!GetObject(record.index, object))
-            continue;
-        object->SetSrc({ 0, 0 }); // the cut of a step half-way would stay at a position of exactly 0
-        PutAtEnd(*object, record);
+    for (const EffectRecord& record : records) {
+        ScreenObject& object = *objects[static_cast<size_t>(record.index)];
+        object.SetSrc({ 0, 0 }); // the cut of a step half-way would stay at a position of exactly 0
+        PutAtEnd(object, record);
     }
-    effects.clear();
-    std::ranges::fill(effectPlaces, -1);
+    records.clear();
+    std::ranges::fill(places, -1);
 }
 
-void ScreenDocument::PutAtEnd(ScreenObject& object, const EffectRecord& record) const
+void AppearanceEffects::PutAtEnd(ScreenObject& object, const EffectRecord& record) const
 {
     object.SetEffectRunning(false);
     object.SetPos(record.end);
-    ClipObject(object, object.GetBoundaryCheck());
+    ClipObject(object, object.GetBoundaryCheck(), canvasSize);
+}
+
+// The last record takes the free place.
+void AppearanceEffects::Drop(int32_t index)
+{
+    int32_t& place = places[static_cast<size_t>(index)];
+    if (place < 0)
+        return;
+    EffectRecord& dropped = records[static_cast<size_t>(place)];
+    dropped = records.back();
+    places[static_cast<size_t>(dropped.index)] = place;
+    records.pop_back();
+    place = -1;
 }

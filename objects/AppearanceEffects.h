@@ -1,18 +1,43 @@
 #pragma once
 
+#include "objects/EffectRecord.h"
 #include "objects/ScreenObject.h"
 
 #include <cstdint>
+#include <memory>
+#include <vector>
 
-// One running appearance effect of the document.
-struct EffectRecord {
-    int32_t index = -1; // of the object in the document's list
-    EffectKind effectKind = EffectNone; // the object's effect when it started
-    int32_t step = 0; // steps taken so far
-    int32_t steps = 0; // last step number
-    float interval = 20.0F; // milliseconds between two steps
-    vec end { 0, 0 }; // where the object is put when the effect finishes
-    vec start { 0, 0 }; // position of step 0
-    vec delta { 0, 0 }; // movement per step
-    uint32_t lastTick = 0; // tick counter at the last step, or at the start
+// Plays the appearance effects of a screen's objects: each slides in from an edge, or vanishes. Objects are known by
+// their index in the screen's list and have one running effect at most; the list's owner tells when it changes. Time is
+// that of the tick counter.
+class AppearanceEffects {
+public:
+    explicit AppearanceEffects(vec screenSize)
+        : canvasSize(screenSize)
+    {
+    }
+
+    // An object has joined the end of the list, has left it (the ones behind move up), or all have.
+    void OnObjectAdded();
+    void OnObjectRemoved(int32_t index);
+    void Clear();
+
+    // Starts the object's effect, which is not EffectNone and does not run yet. It ends where the object now is.
+    void Start(int32_t index, ScreenObject& object);
+    // When a step is due: places the object, fits it to the canvas and draws it. Otherwise, and while it fades out, the
+    // object is not drawn. One without a running effect only loses its mark of one.
+    void Step(int32_t index, ScreenObject& object, uint16_t* canvas, int32_t pitch);
+    // Ends every running effect, a fade-out too, without drawing: the objects stand where they were when it started.
+    void FinishAll(const std::vector<std::unique_ptr<ScreenObject>>& objects);
+
+    // The running effects, in no particular order.
+    const std::vector<EffectRecord>& GetRecords() const { return records; }
+
+private:
+    void PutAtEnd(ScreenObject& object, const EffectRecord& record) const;
+    void Drop(int32_t index);
+
+    vec canvasSize;
+    std::vector<EffectRecord> records;
+    std::vector<int32_t> places; // by object index: the place of its record in `records`, or -1
 };

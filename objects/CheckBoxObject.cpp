@@ -23,7 +23,6 @@ bool CheckBoxObject::Build()
 
 void CheckBoxObject::SetEnabled(bool enable)
 {
-    enabled = enable;
     state = enable ? stateUnchecked : stateDisabled;
 }
 
@@ -46,6 +45,7 @@ bool CheckBoxObject::HandleMessage(ObjectMessage msg, uint32_t, uint32_t lParam)
         return false;
     (*box)->SetPos(pos);
     (*box)->SetView(boxSize);
+    // Not the screen's size, so that a box as large as the screen could be ticked all the same.
     if ((*box)->HitTest(MessagePoint(lParam), { 1000, 1000 }))
         state = state == stateChecked ? stateUnchecked : stateChecked;
     return false;

@@ -52,7 +52,6 @@ private:
 
     bool IsBuilt() const { return *box && *label; }
 
-    bool enabled = true; // the last value given to SetEnabled
     int32_t gap = 5; // pixels between box and label
     Loaded<std::unique_ptr<PictureObject>> box;
     std::string boxFile = "ro_chkbox.bmp";

@@ -1,4 +1,4 @@
-#include "objects/ScreenDocument.h"
+#include "objects/ClipObject.h"
 
 #include <algorithm>
 #include <limits>
@@ -19,8 +19,7 @@ int64_t Overhang(const Axis& axis)
     return std::max(int64_t { 0 }, -axis.pos);
 }
 
-// Cuts the object at the canvas edges. On an edge (pos 0) the source offset of an earlier fitting stays, so that an
-// object that is cropped again stays as it is.
+// Cuts the object at the canvas edges.
 void Crop(Axis& x, Axis& y)
 {
     for (Axis* axis : { &x, &y }) {
@@ -38,7 +37,6 @@ void Crop(Axis& x, Axis& y)
     }
 }
 
-// Moves the object the least distance that brings it back inside. A larger one than the canvas ends at 0 and is cut.
 void PushInside(Axis& x, Axis& y)
 {
     bool outside = false;
@@ -64,7 +62,7 @@ int32_t Saturate(int64_t value)
 
 } // namespace
 
-void ScreenDocument::ClipObject(ScreenObject& object, bool keepInside) const
+void ClipObject(ScreenObject& object, bool keepInside, vec canvasSize)
 {
     const vec pos = object.GetPos();
     const vec src = object.GetSrc();

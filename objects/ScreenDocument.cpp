@@ -3,6 +3,7 @@
 #include "objects/AnimationObject.h"
 #include "objects/ButtonObject.h"
 #include "objects/CheckBoxObject.h"
+#include "objects/ClipObject.h"
 #include "objects/PictureObject.h"
 #include "objects/SelectboxObject.h"
 #include "objects/WordObject.h"
@@ -41,7 +42,7 @@ void ScreenDocument::Add(std::unique_ptr<ScreenObject> object, ObjectKind kind)
     object->SetLayer(layerCount++);
     object->SetKind(kind);
     objects.push_back(std::move(object));
-    effectPlaces.push_back(-1);
+    effects.OnObjectAdded();
 }
 
 void ScreenDocument::AddPicture(std::unique_ptr<PictureObject> picture)
@@ -192,20 +193,14 @@ bool ScreenDocument::RemoveObject(int32_t index)
     }
     --layerCount;
 
-    DropEffect(index);
-    effectPlaces.erase(effectPlaces.begin() + index);
-    for (EffectRecord& record : effects) {
-        if (record.index > index)
-            --record.index;
-    }
+    effects.OnObjectRemoved(index);
     return true;
 }
 
 void ScreenDocument::Clear()
 {
     objects.clear();
-    effects.clear();
-    effectPlaces.clear();
+    effects.Clear();
     layerCount = 0;
     std::fill_n(canvas.get(), size_t { ScreenWidth } * ScreenHeight, uint16_t { 0 });
 }
@@ -255,4 +250,28 @@ void ScreenDocument::FitAll()
         if (auto* animation = dynamic_cast<AnimationObject*>(object.get()))
             animation->FitFrame();
     }
+}
+
+void ScreenDocument::ClipObject(ScreenObject& object, bool keepInside) const
+{
+    ::ClipObject(object, keepInside, canvasSize);
+}
+
+void ScreenDocument::StartEffect(int32_t index)
+{
+    ScreenObject* object = nullptr;
+    if (GetObject(index, object) && object->GetEffect() != EffectNone && !object->GetEffectRunning())
+        effects.Start(index, *object);
+}
+
+void ScreenDocument::StepEffect(int32_t index)
+{
+    ScreenObject* object = nullptr;
+    if (GetObject(index, object))
+        effects.Step(index, *object, canvas.get(), pitch);
+}
+
+void ScreenDocument::FinishEffects()
+{
+    effects.FinishAll(objects);
 }

@@ -60,7 +60,7 @@ public:
     // Draws the backgrounds, then the objects from layer 0 up, and returns the canvas: 800 by 600 pixels in 555.
     // Fits every object first and advances running effects. The canvas is not cleared before.
     const uint16_t* Render();
-    // Fits pos, src and view of the object to the canvas: pushed back inside, or cropped at the edges.
+    // Fits pos, src and view of the object to the canvas (see objects/ClipObject.h).
     void ClipObject(ScreenObject& object, bool keepInside) const;
 
     // Fits every object by its own rule, also one whose effect runs and that a frame would put elsewhere, and does
@@ -69,7 +69,7 @@ public:
 
     // Starts the object's appearance effect; nothing for EffectNone, a running effect or a missing object.
     void StartEffect(int32_t index);
-    // Advances the effect of an object and draws it when a step is due.
+    // Advances the effect of an object and draws it when a step is due; one without an effect loses its mark of one.
     void StepEffect(int32_t index);
     // Ends every running effect, a fade-out too, without drawing: the objects stand where they were when it started.
     void FinishEffects();
@@ -79,25 +79,21 @@ public:
     vec GetCanvasSize() const { return canvasSize; }
     const std::vector<std::unique_ptr<ScreenObject>>& GetObjects() const { return objects; }
     // The running effects, in no particular order.
-    const std::vector<EffectRecord>& GetEffects() const { return effects; }
+    const std::vector<EffectRecord>& GetEffects() const { return effects.GetRecords(); }
 
 private:
     void Add(std::unique_ptr<ScreenObject> object, ObjectKind kind);
     void FitObject(ScreenObject& object) const;
-    void PutAtEnd(ScreenObject& object, const EffectRecord& record) const;
     // The index of the first object in list order on the layer, or -1; and the same of every layer, for who needs all.
     int32_t FirstOnLayer(int32_t layer) const;
     std::vector<int32_t> IndicesByLayer() const;
     template <class FindOnLayer> bool PassNeighbour(ScreenObject& object, bool down, FindOnLayer findOnLayer);
-    void KeepEffect(const EffectRecord& record);
-    void DropEffect(int32_t index);
 
     std::vector<std::unique_ptr<ScreenObject>> objects;
     std::vector<std::unique_ptr<PictureObject>> backgrounds;
-    std::vector<EffectRecord> effects;
-    std::vector<int32_t> effectPlaces; // by object index: the place of its record in `effects`, or -1
     std::unique_ptr<uint16_t[]> canvas;
     vec canvasSize { ScreenWidth, ScreenHeight };
+    AppearanceEffects effects { canvasSize };
     int32_t pitch = 2 * ScreenWidth;
     int32_t layerCount = 0;
 };
