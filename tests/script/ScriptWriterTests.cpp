@@ -72,6 +72,7 @@ TEST(ScriptWriter, FindsTheFirstTextWithADoubleQuote)
     EXPECT_EQ(ScriptWriter::FindUnstorableText({ .objects = document.GetObjects() }), std::nullopt);
     auto selectbox = std::make_unique<SelectboxObject>();
     selectbox->AddString("5\" disk");
+    selectbox->AddString("a later \"");
     document.AddSelectbox(std::move(selectbox));
     EXPECT_EQ(ScriptWriter::FindUnstorableText({ .objects = document.GetObjects() }), "5\" disk");
 }
