@@ -38,7 +38,7 @@ TEST_F(BmpLoading, TakesOpacityFromTheCompanion)
 {
     BmpFile colors(3, 2);
     colors.indices = { 1, 2, 3, 4, 5, 6 };
-    colors.palette[6] = 0x123456;
+    colors.palette[255] = 0x123456;
     colors.Write("p.bmp");
     BmpFile alphas(3, 2);
     alphas.indices = { 255, 0, 128, 7, 8, 248 };
@@ -47,7 +47,7 @@ TEST_F(BmpLoading, TakesOpacityFromTheCompanion)
     EXPECT_EQ(LoadAlpha(), (Bytes { 0x40, 1, 0x00, 0x80, 3, 16, 0x00, 0x80, 5, 1, 0x40, 6 }));
     ASSERT_TRUE(picture);
     EXPECT_EQ(Head(), (std::vector<int> { PicSprite, 3, 2, 99, 99 }));
-    EXPECT_EQ(Sprite().palette[6], 0x118A); // 565 without the lowest green bit
+    EXPECT_EQ(Sprite().palette[255], 0x118A); // 565 without the lowest green bit
     alphas.indices = { 7, 0, 7, 7, 8, 7 };
     alphas.Write("pa.bmp");
     EXPECT_EQ(LoadAlpha(1), (Bytes { 0x80, 5, 1 })) << "visible from 8";
@@ -116,11 +116,7 @@ TEST_F(BmpLoading, FindsThePaletteByTheHeaderSizes)
 
 TEST_F(BmpLoading, TrimsOnRequest)
 {
-    const struct {
-        Grid whole;
-        std::vector<int> head;
-        Bytes trimmed;
-    } cases[] = {
+    const std::tuple<Grid, std::vector<int>, Bytes> cases[] = {
         { { "...", "..a", "...", "b.c", "..." }, { 7, 3, 3, 0, 1 }, { 1, 0x40, 'a', 2, 0x40, 'b', 0, 0x40, 'c' } },
         { { "...", "..." }, { 7, 0, 0, 99, 99 }, {} }, // the offsets stay unwritten
     };

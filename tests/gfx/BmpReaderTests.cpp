@@ -68,7 +68,6 @@ TEST(BmpReading, GivesRowsFromTheTopAndColorsInBothFormats)
             EXPECT_FALSE(ReadBmpIndices_(name, std::span(plane).first(count)));
     }
     EXPECT_FALSE(reader.Open_("missing.bmp"));
-    EXPECT_EQ(reader.Height_(), 0);
     EXPECT_FALSE(reader.ReadRow_(0, plane.data()));
 }
 

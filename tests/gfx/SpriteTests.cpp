@@ -1,4 +1,4 @@
-#include "gfx/Pic16Sprite.h"
+#include "gfx/RunCursor.h"
 #include "tests/support/Grids.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +28,9 @@ Bytes MaskOf(uint16_t width, uint16_t height, const Bytes& stream, uint8_t thres
     const SPicOwner_ owner(sprite);
     sprite->keyIndex = 7;
     std::copy(stream.begin(), stream.end(), sprite->Stream_());
+    SRunCursor_ cursor(*sprite);
+    cursor.SkipRows_(-1);
+    EXPECT_EQ(cursor.position, sprite->Stream_()) << "nothing is skipped for counts below 1";
     Bytes mask(SPic16X_::MaskSize_(sprite), 0xA5);
     EXPECT_EQ(SPic16X_::MakeMask_(sprite, mask.data(), threshold), 1u);
     return mask;
@@ -42,6 +45,7 @@ TEST(SpriteEncoding, GroupsPixelsOfOneTypeIntoRuns)
         { { "#########.########p" },
             { 0x48, 1, 2, 3, 4, 5, 6, 7, 8, 9, 0x00, 0x47, 11, 12, 13, 14, 15, 16, 17, 18, 0x80, 19, 16 } },
         { { std::string(129, '.') }, { 0x3F, 0x3F, 0x00 } },
+        { { std::string(63, '.') + '#' + std::string(63, '.') }, { 0x3E, 0x40, 64, 0x3E } },
     };
     for (const auto& [alphas, stream] : cases)
         EXPECT_EQ(Encoded(alphas), stream) << alphas[0];
