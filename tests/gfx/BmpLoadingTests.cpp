@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 using Bytes = std::vector<uint8_t>;
@@ -41,14 +43,15 @@ TEST_F(BmpLoading, TakesOpacityFromTheCompanion)
     colors.palette[255] = 0x123456;
     colors.Write("p.bmp");
     BmpFile alphas(3, 2);
-    alphas.indices = { 255, 0, 128, 7, 8, 248 };
-    alphas.palette[8] = 0xFFFF08; // only blue counts
+    std::reverse(alphas.palette.begin(), alphas.palette.end());
+    alphas.indices = { 0, 255, 127, 248, 247, 7 };
+    alphas.palette[247] = 0xFFFF08; // only blue counts
     alphas.Write("pa.bmp");
     EXPECT_EQ(LoadAlpha(), (Bytes { 0x40, 1, 0x00, 0x80, 3, 16, 0x00, 0x80, 5, 1, 0x40, 6 }));
     ASSERT_TRUE(picture);
     EXPECT_EQ(Head(), (std::vector<int> { PicSprite, 3, 2, 99, 99 }));
     EXPECT_EQ(Sprite().palette[255], 0x118A); // 565 without the lowest green bit
-    alphas.indices = { 7, 0, 7, 7, 8, 7 };
+    alphas.indices = { 248, 255, 248, 248, 247, 248 };
     alphas.Write("pa.bmp");
     EXPECT_EQ(LoadAlpha(1), (Bytes { 0x80, 5, 1 })) << "visible from 8";
     EXPECT_EQ(LoadAlpha(2), (Bytes { 0x03, 0x80, 5, 1, 0x00 })) << "only 1 trims";
