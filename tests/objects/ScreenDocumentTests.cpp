@@ -237,11 +237,9 @@ TEST_F(ScreenDocumentTest, PutsWhatIsHalfWayBackToItsPlaceWhenEffectsAreFinished
     Add({ 790, 100 }, EffectFromTop).SetBoundaryCheck(true);
     for (int32_t index = 0; index < 4; ++index)
         document.StartEffect(index);
-    Frame(100);
-    Frame(100);
-    drawings.clear();
+    EXPECT_EQ(Frame(100).size(), 3U);
     document.FinishEffects();
-    EXPECT_EQ(drawings.size(), 0U);
+    EXPECT_EQ(drawings.size(), 3U); // nothing was drawn
     EXPECT_EQ(document.GetEffects().size(), 0U);
     EXPECT_EQ(Frame(),
         (Places { { { 300, 100 }, { 0, 0 }, { 50, 40 } }, { { 0, 100 }, { 0, 0 }, { 50, 40 } },
