@@ -115,6 +115,7 @@ TEST_F(ScriptCommands, SaveDuringAPreviewStoresWhereTheObjectBelongs)
 {
     AddPicture({ 300, 100 }, { 40, 30 }).SetEffect(EffectFromRight);
     shell.document.StartEffect(0);
+    desktop.Advance(100);
     Play();
     SaveAs(InImageFolder("screen.tobrik"));
     EXPECT_EQ(ObjectAt(0).GetPos(), vec(300, 100));
