@@ -64,9 +64,41 @@ SPic16X_* CSpriteWork_::Finish_(uint32_t* blockSize)
     return result;
 }
 
-bool ReadEightBitInfo_(const char* fileName, SBmpInfo_& info)
+bool ReadEightBitInfo_(const char* fileName, SBmpInfo_& info, SLoadFailure_& failure)
 {
-    return ReadBmpInfo_(fileName, true, info) && info.bitsPerPixel == 8;
+    if (!ReadBmpInfo_(fileName, true, info, &failure))
+        return false;
+    if (info.bitsPerPixel == 8)
+        return true;
+    failure = { .problem = LoadProblem::Depth, .bitsPerPixel = info.bitsPerPixel };
+    return false;
+}
+
+// The alpha file's headers, which have to suit the colour file's.
+bool ReadCompanionInfo_(const char* fileName, const SBmpInfo_& color, SBmpInfo_& alpha, SLoadFailure_& failure)
+{
+    const bool isRead = ReadEightBitInfo_(fileName, alpha, failure);
+    if (isRead && color.width == alpha.width && color.height == alpha.height)
+        return true;
+    if (isRead)
+        failure.problem = LoadProblem::OtherSize;
+    failure.inCompanion = true;
+    return false;
+}
+
+// The pixels of a file whose headers were read before.
+bool ReadPlane_(const char* fileName, std::span<uint8_t> plane, SLoadFailure_& failure)
+{
+    if (ReadBmpIndices_(fileName, plane))
+        return true;
+    failure.problem = LoadProblem::Unreadable;
+    return false;
+}
+
+SPic16X_* RefuseAsTooLarge_(SLoadFailure_& failure)
+{
+    failure.problem = LoadProblem::TooLarge;
+    return nullptr;
 }
 
 // Turns palette indices of the alpha file into alphas of 0 to 248: the top five bits of the colour's blue. Most of an
@@ -106,32 +138,40 @@ int KeyIndex_(const SBmpInfo_& info, uint16_t color565)
 } // namespace
 
 SPic16X_* SPic16X_::LoadBmpAlpha_(
-    const char* colorFileName, const char* alphaFileName, uint32_t trim, uint32_t* blockSize)
+    const char* colorFileName, const char* alphaFileName, uint32_t trim, uint32_t* blockSize, SLoadFailure_* failure)
 {
+    SLoadFailure_ unasked;
+    SLoadFailure_& why = failure ? *failure : unasked;
+    why = {};
     SBmpInfo_ color;
     SBmpInfo_ alpha;
-    if (!ReadEightBitInfo_(colorFileName, color) || !ReadEightBitInfo_(alphaFileName, alpha))
-        return nullptr;
-    if (color.width != alpha.width || color.height != alpha.height)
+    if (!ReadEightBitInfo_(colorFileName, color, why) || !ReadCompanionInfo_(alphaFileName, color, alpha, why))
         return nullptr;
     CSpriteWork_ work(color);
-    if (!work.IsReady_() || !ReadBmpIndices_(colorFileName, work.Indices_())
-        || !ReadBmpIndices_(alphaFileName, work.Alphas_()))
+    if (!work.IsReady_())
+        return RefuseAsTooLarge_(why);
+    if (!ReadPlane_(colorFileName, work.Indices_(), why) || !ReadPlane_(alphaFileName, work.Alphas_(), why))
         return nullptr;
     MapToAlphas_(work.Alphas_(), alpha.palette);
     if (trim == 1)
         work.Trim_();
-    return work.Finish_(blockSize);
+    SPic16X_* result = work.Finish_(blockSize);
+    return result ? result : RefuseAsTooLarge_(why);
 }
 
 SPic16X_* SPic16X_::LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t keyGreen, uint8_t keyBlue, uint32_t trim,
-    uint32_t* blockSize, uint16_t* left, uint16_t* top)
+    uint32_t* blockSize, uint16_t* left, uint16_t* top, SLoadFailure_* failure)
 {
+    SLoadFailure_ unasked;
+    SLoadFailure_& why = failure ? *failure : unasked;
+    why = {};
     SBmpInfo_ info;
-    if (!ReadEightBitInfo_(fileName, info))
+    if (!ReadEightBitInfo_(fileName, info, why))
         return nullptr;
     CSpriteWork_ work(info);
-    if (!work.IsReady_() || !ReadBmpIndices_(fileName, work.Indices_()))
+    if (!work.IsReady_())
+        return RefuseAsTooLarge_(why);
+    if (!ReadPlane_(fileName, work.Indices_(), why))
         return nullptr;
     const int keyIndex = KeyIndex_(info, ToColor565_(keyRed, keyGreen, keyBlue));
     std::transform(work.Indices_().begin(), work.Indices_().end(), work.Alphas_().begin(),
@@ -139,7 +179,9 @@ SPic16X_* SPic16X_::LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t ke
     if (trim == 1)
         work.Trim_();
     SPic16X_* result = work.Finish_(blockSize);
-    const bool isPlaced = result && result->width > 0; // An invisible picture is trimmed to nothing, nowhere.
+    if (!result)
+        return RefuseAsTooLarge_(why);
+    const bool isPlaced = result->width > 0; // An invisible picture is trimmed to nothing, nowhere.
     if (isPlaced && left)
         *left = work.left;
     if (isPlaced && top)

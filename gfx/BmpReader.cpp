@@ -1,8 +1,11 @@
 #include "gfx/BmpReader.h"
 
 #include "gfx/ColorFormats.h"
+#include "platform/Path.h"
 
+#include <filesystem>
 #include <new>
+#include <system_error>
 
 // The head of a BMP; all numbers are little-endian:
 //
@@ -17,7 +20,9 @@ namespace {
 
 constexpr uint32_t fileHeaderBytes = 14;
 constexpr uint32_t infoHeaderBytes = 40;
+constexpr uint32_t oldInfoHeaderBytes = 12; // all its fields lie elsewhere
 constexpr int32_t largestSize = 65535;
+constexpr uint16_t bmpSignature = 0x4D42;
 
 uint16_t Word_(const uint8_t* bytes)
 {
@@ -32,6 +37,13 @@ uint32_t Long_(const uint8_t* bytes)
 bool IsSize_(int32_t size)
 {
     return size >= 1 && size <= largestSize;
+}
+
+LoadProblem UnopenedProblem_(const char* fileName)
+{
+    std::error_code unknown;
+    const bool isThere = fileName && std::filesystem::exists(platform::NativePath(fileName), unknown);
+    return isThere ? LoadProblem::Unreadable : LoadProblem::NoSuchFile;
 }
 
 } // namespace
@@ -58,11 +70,22 @@ struct CBmpReader_::SHeader_ {
     {
     }
 
-    bool IsSupported_() const
+    // None for a file that is supported.
+    LoadProblem Problem_() const
     {
-        return signature == 0x4D42 && compression == 0 && planes == 1 && IsSize_(width) && IsSize_(height)
-            && (bitsPerPixel == 8 || bitsPerPixel == 24);
+        if (signature != bmpSignature)
+            return LoadProblem::NotBmp;
+        if (bitsPerPixel != 8 && bitsPerPixel != 24)
+            return LoadProblem::Depth;
+        if (compression != 0)
+            return LoadProblem::Compressed;
+        if (planes != 1)
+            return LoadProblem::BadHeader;
+        if (IsSize_(width) && IsSize_(height))
+            return LoadProblem::None;
+        return height < 0 ? LoadProblem::TopDown : LoadProblem::BadSize;
     }
+    bool IsOld_() const { return signature == bmpSignature && infoHeaderSize == oldInfoHeaderBytes; }
     uint32_t Stride_() const
     {
         const auto rowBits = static_cast<uint32_t>(width) * bitsPerPixel;
@@ -79,42 +102,51 @@ struct CBmpReader_::SHeader_ {
 bool CBmpReader_::Open_(const char* fileName)
 {
     Close_();
-    if (CFileR_::Open_(fileName) && ParseHeaders_())
+    failure = {};
+    failure.problem = CFileR_::Open_(fileName) ? ParseHeaders_() : UnopenedProblem_(fileName);
+    if (failure.problem == LoadProblem::None)
         return true;
     Close_();
     return false;
 }
 
-bool CBmpReader_::ParseHeaders_()
+LoadProblem CBmpReader_::ParseHeaders_()
 {
-    uint8_t bytes[fileHeaderBytes + infoHeaderBytes];
+    uint8_t bytes[fileHeaderBytes + infoHeaderBytes] {};
     if (!SeekSet_(0) || !Read_(bytes, fileHeaderBytes) || !Read_(bytes + fileHeaderBytes, infoHeaderBytes))
-        return false;
+        return Word_(bytes) == bmpSignature ? LoadProblem::CutShort : LoadProblem::NotBmp;
     const SHeader_ header(bytes);
-    if (!header.IsSupported_() || header.NeededBytes_() > Size_())
-        return false;
-    if (header.bitsPerPixel == 8 && !ReadPalette_(header))
-        return false;
+    failure.bitsPerPixel = header.bitsPerPixel;
+    LoadProblem problem = header.Problem_();
+    if (problem == LoadProblem::None && header.NeededBytes_() > Size_())
+        problem = LoadProblem::CutShort;
+    if (problem == LoadProblem::None && header.bitsPerPixel == 8)
+        problem = ReadPalette_(header);
+    if (problem != LoadProblem::None)
+        return header.IsOld_() ? LoadProblem::OldHeader : problem;
     width = static_cast<uint32_t>(header.width);
     height = header.height;
     stride = header.Stride_();
     pixelDataOffset = header.pixelDataOffset;
     bitsPerPixel = static_cast<uint8_t>(header.bitsPerPixel);
-    return true;
+    return problem;
 }
 
-bool CBmpReader_::ReadPalette_(const SHeader_& header)
+LoadProblem CBmpReader_::ReadPalette_(const SHeader_& header)
 {
     const int64_t start = int64_t { fileHeaderBytes } + header.infoHeaderSize;
     const int64_t gap = header.pixelDataOffset - start;
     constexpr auto entryBytes = static_cast<int64_t>(sizeof(SBmpColor_));
     if (gap < 0 || gap > paletteSize * entryBytes)
-        return false;
+        return LoadProblem::BadHeader;
     palette.reset(new (std::nothrow) SBmpColor_[paletteSize]);
+    if (!palette)
+        return LoadProblem::TooLarge;
     // An entry that the gap only holds a part of is not defined.
     colorCount = static_cast<uint16_t>(gap / entryBytes);
-    return palette && SeekSet_(static_cast<uint32_t>(start))
-        && Read_(palette.get(), static_cast<int32_t>(colorCount * entryBytes));
+    const bool isRead
+        = SeekSet_(static_cast<uint32_t>(start)) && Read_(palette.get(), static_cast<int32_t>(colorCount * entryBytes));
+    return isRead ? LoadProblem::None : LoadProblem::CutShort;
 }
 
 bool CBmpReader_::ReadRow_(uint32_t row, uint8_t* buffer)
@@ -138,11 +170,14 @@ void CBmpReader_::Close_()
     CFileR_::Close_();
 }
 
-bool ReadBmpInfo_(const char* fileName, bool as565, SBmpInfo_& info)
+bool ReadBmpInfo_(const char* fileName, bool as565, SBmpInfo_& info, SLoadFailure_* failure)
 {
     CBmpReader_ reader;
-    if (!reader.Open_(fileName))
+    if (!reader.Open_(fileName)) {
+        if (failure)
+            *failure = reader.Failure_();
         return false;
+    }
     info = {};
     info.width = static_cast<uint16_t>(reader.Width_());
     info.height = static_cast<uint16_t>(reader.Height_());

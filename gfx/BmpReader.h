@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gfx/FileR.h"
+#include "gfx/LoadFailure.h"
 
 #include <cstdint>
 #include <memory>
@@ -22,6 +23,8 @@ public:
     // Closes what was open before. False, with nothing open, when the file cannot be read, is no such BMP or is too
     // short for its pixels (the padding of the last stored row may be missing).
     [[nodiscard]] bool Open_(const char* fileName);
+    // Why the last Open_ answered false.
+    const SLoadFailure_& Failure_() const { return failure; }
     // Row 0 is the top one. Writes width * bits / 8 bytes.
     [[nodiscard]] bool ReadRow_(uint32_t row, uint8_t* buffer);
     void Close_();
@@ -37,8 +40,8 @@ public:
 private:
     struct SHeader_;
 
-    bool ParseHeaders_();
-    bool ReadPalette_(const SHeader_& header);
+    LoadProblem ParseHeaders_();
+    LoadProblem ReadPalette_(const SHeader_& header);
 
     uint32_t width = 0;
     int32_t height = 0;
@@ -47,6 +50,7 @@ private:
     uint8_t bitsPerPixel = 0; // 0: nothing open
     uint16_t colorCount = 0;
     std::unique_ptr<SBmpColor_[]> palette;
+    SLoadFailure_ failure;
 };
 
 // What a BMP's headers say. Palette entries that the file does not define are black; an 8-bit file that defines none
@@ -59,8 +63,9 @@ struct SBmpInfo_ {
     uint16_t palette[CBmpReader_::paletteSize] {};
 };
 
-// Each opens and closes the file for itself. The palette becomes 565 or else 555 colours.
-[[nodiscard]] bool ReadBmpInfo_(const char* fileName, bool as565, SBmpInfo_& info);
+// Each opens and closes the file for itself. The palette becomes 565 or else 555 colours. What went wrong is written
+// on failure only, and may be null.
+[[nodiscard]] bool ReadBmpInfo_(const char* fileName, bool as565, SBmpInfo_& info, SLoadFailure_* failure = nullptr);
 // The palette indices of an 8-bit BMP, top row first and without padding. False unless there are exactly as many as the
 // span holds; the span's bytes are then undefined.
 [[nodiscard]] bool ReadBmpIndices_(const char* fileName, std::span<uint8_t> indices);

@@ -6,6 +6,7 @@
 namespace platform {
 struct Font;
 }
+struct SLoadFailure_;
 
 // Kind codes. The other codes below 15 are reserved: no operation makes such a picture, and each treats it as empty.
 enum PicKind : uint16_t { PicEmpty = 0, PicPlain = 1, PicKeyed = 2, PicSprite = 7, PicKindCount = 15 };
@@ -41,15 +42,16 @@ struct SPic16X_ {
 
     // Loads an uncompressed 8-bit BMP as a 565 sprite (gfx/BmpLoading.cpp); null on any failure, with nothing left open
     // or allocated. File names are backslash paths in code page 950. The out pointers may be null and are written only
-    // on success; the size is that of the returned block in bytes. `trim` 1 cuts the picture to its visible pixels.
+    // on success, but for `failure`, which is None then; the size is that of the returned block in bytes. `trim` 1 cuts
+    // the picture to its visible pixels.
     //
     // The alpha file must have the same dimensions; the blue of its palette colours is the opacity.
-    static SPic16X_* LoadBmpAlpha_(
-        const char* colorFileName, const char* alphaFileName, uint32_t trim, uint32_t* blockSize);
+    static SPic16X_* LoadBmpAlpha_(const char* colorFileName, const char* alphaFileName, uint32_t trim,
+        uint32_t* blockSize, SLoadFailure_* failure = nullptr);
     // One palette colour, compared after reduction to 16 bits, is transparent. `left` and `top` are the columns and
     // rows that were cut off before the first one kept, 0 without trimming; they stay unwritten when nothing is left.
     static SPic16X_* LoadBmpKey_(const char* fileName, uint8_t keyRed, uint8_t keyGreen, uint8_t keyBlue, uint32_t trim,
-        uint32_t* blockSize, uint16_t* left, uint16_t* top);
+        uint32_t* blockSize, uint16_t* left, uint16_t* top, SLoadFailure_* failure = nullptr);
 
     // The hit mask of a sprite (gfx/HitMask.cpp): one bit a pixel, least significant first, rows padded to whole bytes,
     // set where the pixel's level is at least `threshold` (0 to 31; opaque pixels have 31).

@@ -22,18 +22,27 @@ bool PictureObject::Load()
     return BuildMask();
 }
 
-bool PictureObject::LoadPicture()
+std::string PictureObject::CompanionOf(const std::string& fileName)
 {
     const size_t extension = fileName.find(pictureExtension);
-    if (extension == std::string::npos)
+    return extension == std::string::npos ? std::string() : std::string(fileName).insert(extension, 1, 'a');
+}
+
+bool PictureObject::LoadPicture()
+{
+    const std::string companion = CompanionOf(fileName);
+    if (companion.empty()) {
+        loaded->failure = { .problem = LoadProblem::NameWithoutBmp };
         return false;
+    }
     loaded->picture.reset();
     loaded->mask.reset();
 
-    const std::string companion = std::string(fileName).insert(extension, 1, 'a');
+    uint32_t* const bytes = &loaded->pictureBytes;
+    SLoadFailure_* const failure = &loaded->failure;
     SPicOwner_ picture(CFileR_().Open_(companion.c_str())
-            ? SPic16X_::LoadBmpAlpha_(fileName.c_str(), companion.c_str(), 0, &loaded->pictureBytes)
-            : SPic16X_::LoadBmpKey_(fileName.c_str(), 0, 255, 0, 0, &loaded->pictureBytes, nullptr, nullptr));
+            ? SPic16X_::LoadBmpAlpha_(fileName.c_str(), companion.c_str(), 0, bytes, failure)
+            : SPic16X_::LoadBmpKey_(fileName.c_str(), 0, 255, 0, 0, bytes, nullptr, nullptr, failure));
     if (!picture || loaded->pictureBytes == 0)
         return false;
     SPic16X_::ConvertTo555_(picture.get());
@@ -49,6 +58,7 @@ bool PictureObject::BuildMask()
         return true;
     loaded->picture.reset();
     loaded->mask.reset();
+    loaded->failure = { .problem = LoadProblem::TooLarge };
     return false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gfx/LoadFailure.h"
 #include "gfx/Pic16X.h"
 #include "objects/Loaded.h"
 #include "objects/ScreenObject.h"
@@ -31,6 +32,11 @@ public:
     bool PixelHit(vec point) override;
     void Reset() override;
 
+    // Why the last Load (of a word: SetText) answered false.
+    const SLoadFailure_& GetLoadFailure() const { return loaded->failure; }
+    // The alpha file that belongs to a picture: "a" before the first ".bmp". Empty for a name without ".bmp".
+    static std::string CompanionOf(const std::string& fileName);
+
     // Null while nothing is loaded.
     const SPic16X_* GetPicture() const { return loaded->picture.get(); }
     const uint8_t* GetMask() const { return loaded->mask.get(); }
@@ -43,6 +49,7 @@ protected:
         uint32_t pictureBytes = 0; // as the BMP loader reports it
         std::unique_ptr<uint8_t[]> mask; // one bit a pixel, rows padded to bytes
         uint32_t maskBytes = 0;
+        SLoadFailure_ failure;
     };
 
     // The first half of Load: reads the file and converts it to 555. False leaves the object as Load says; the mask is

@@ -28,6 +28,7 @@ bool WordObject::SetText(const std::string& newText)
 {
     text = newText;
     loaded->picture.reset();
+    loaded->failure.problem = text.empty() ? LoadProblem::EmptyText : LoadProblem::None;
     if (text.empty())
         return false;
     loaded->picture.reset(SPic16X_::NewText_(text.c_str(), GetFont(), textColor, keyColor, 1, letterSpacing));

@@ -1,14 +1,9 @@
 #include "shell/ScriptCommands.h"
 
-#include "objects/AnimationObject.h"
-#include "objects/ButtonObject.h"
-#include "objects/CheckBoxObject.h"
-#include "objects/PictureObject.h"
-#include "objects/SelectboxObject.h"
-#include "objects/WordObject.h"
 #include "platform/CurrentFolder.h"
 #include "platform/User.h"
 #include "script/ParsedScreen.h"
+#include "script/ScreenBuilder.h"
 #include "script/ScreenInfo.h"
 #include "script/ScriptParser.h"
 #include "script/ScriptTokenizer.h"
@@ -18,52 +13,11 @@
 #include "shell/ShellContext.h"
 #include "shell/WindowLayout.h"
 
-#include <memory>
-#include <vector>
+#include <utility>
 
 namespace {
 
 constexpr int unparsableScriptCode = 16;
-
-bool BuildResources(PictureObject& picture)
-{
-    return picture.Load();
-}
-bool BuildResources(WordObject& word)
-{
-    return word.SetText(std::string(word.GetText()));
-}
-bool BuildResources(CheckBoxObject& checkBox)
-{
-    return checkBox.Build();
-}
-bool BuildResources(SelectboxObject& selectbox)
-{
-    return selectbox.Build();
-}
-
-// Rebuilds the parsed objects of one kind in their order; false at the first that cannot be built.
-template <class Kind>
-bool Rebuild(const std::vector<std::unique_ptr<Kind>>& parsed, void (ScreenDocument::*add)(std::unique_ptr<Kind>))
-{
-    for (const auto& each : parsed) {
-        auto object = std::make_unique<Kind>();
-        *object = *each;
-        if (!BuildResources(*object))
-            return false;
-        (Shell().document.*add)(std::move(object));
-    }
-    return true;
-}
-
-// Layers are numbered in this order, whatever the file says.
-bool RebuildAll(const ParsedScreen& screen)
-{
-    return Rebuild(screen.pictures, &ScreenDocument::AddPicture) && Rebuild(screen.buttons, &ScreenDocument::AddButton)
-        && Rebuild(screen.animations, &ScreenDocument::AddAnimation) && Rebuild(screen.words, &ScreenDocument::AddWord)
-        && Rebuild(screen.checkBoxes, &ScreenDocument::AddCheckBox)
-        && Rebuild(screen.selectboxes, &ScreenDocument::AddSelectbox);
-}
 
 ScreenInfo DescribeScreen()
 {
@@ -127,7 +81,7 @@ bool LoadScreenScript(const std::string& path)
     ShellContext& shell = Shell();
     shell.document.Clear();
     shell.editing.Reset();
-    const bool rebuilt = RebuildAll(screen);
+    const bool rebuilt = !BuildScreen(std::move(screen), shell.document);
     if (rebuilt)
         shell.editing.SetFileName(path);
     shell.editing.SetObjectCount(shell.document.GetLayerCount());

@@ -1,5 +1,6 @@
 #include "platform/CodePage.h"
 #include "platform/headless/HeadlessDesktop.h"
+#include "script/ScreenBuilder.h"
 #include "script/ScriptParser.h"
 #include "script/ScriptWriter.h"
 #include "tests/script/SizedObject.h"
@@ -93,26 +94,16 @@ std::string Describe(const ParsedScreen& screen)
         + Lines("Selectbox", screen.selectboxes, [](const auto& box) { return Files(box) + Choices(box); });
 }
 
-// The objects in the order and with the layers of a loaded screen. A picture has the size that the script names.
-std::vector<std::unique_ptr<ScreenObject>> TakeObjects(ParsedScreen screen)
+// Fills the document as loading does, with nothing loaded. A picture has the size that the script names.
+void TakeObjects(ParsedScreen screen, ScreenDocument& document)
 {
     for (auto& picture : screen.pictures)
         picture = std::make_unique<Sized<PictureObject>>(*picture, picture->GetView());
-    std::vector<std::unique_ptr<ScreenObject>> objects;
-    const auto take = [&](auto& parsed, ObjectKind kind) {
-        for (auto& object : parsed) {
-            object->SetKind(kind);
-            object->SetLayer(static_cast<int32_t>(objects.size()));
-            objects.push_back(std::move(object));
-        }
-    };
-    take(screen.pictures, KindPicture);
-    take(screen.buttons, KindButton);
-    take(screen.animations, KindAnimation);
-    take(screen.words, KindWord);
-    take(screen.checkBoxes, KindCheckBox);
-    take(screen.selectboxes, KindSelectbox);
-    return objects;
+    VisitKinds(screen, [&](ObjectKind, auto& parsed, auto add) {
+        for (auto& object : parsed)
+            (document.*add)(std::move(object));
+        return true;
+    });
 }
 
 // Writes what the script describes and returns the bytes.
@@ -122,8 +113,9 @@ std::string Rewrite(const std::string& script)
     ScriptTokenizer tokens;
     ParsedScreen screen;
     EXPECT_TRUE(tokens.TokenizeText(script) && ScriptParser::ParseTokens(tokens, screen));
-    const auto objects = TakeObjects(std::move(screen));
-    EXPECT_EQ(ScriptWriter().Write({ .objects = objects }, "out.tobrik"), platform::FileWriting::Done);
+    ScreenDocument document;
+    TakeObjects(std::move(screen), document);
+    EXPECT_EQ(ScriptWriter().Write({ .objects = document.GetObjects() }, "out.tobrik"), platform::FileWriting::Done);
     return ReadBytes("out.tobrik");
 }
 
