@@ -46,16 +46,6 @@ void DrawPart(PictureObject* part, uint16_t* dest, int32_t pitch)
 
 } // namespace
 
-SelectboxChoice::SelectboxChoice(const std::string& choiceText, vec wordOffset)
-    : offset(wordOffset)
-    , text(choiceText)
-{
-    if (text.empty())
-        return;
-    word = std::make_unique<WordObject>();
-    word->SetText(text);
-}
-
 bool SelectboxObject::Build()
 {
     *editPicture = MakePart<PictureObject>(editFile, "EditBox.bmp");
@@ -73,20 +63,31 @@ bool SelectboxObject::Build()
 
 bool SelectboxObject::AddString(const std::string& text)
 {
-    choices.emplace_back(text, wordOffsetInBox);
+    choices.Add(text);
     return true;
 }
 
 void SelectboxObject::RemoveString(int32_t index)
 {
     if (index >= 0 && index < GetCount())
-        choices.erase(choices.begin() + index);
+        choices.Remove(static_cast<size_t>(index));
 }
 
-const std::string& SelectboxObject::GetString(int32_t index) const
+std::string SelectboxObject::GetString(int32_t index) const
 {
-    static const std::string none;
-    return index >= 0 && index < GetCount() ? choices[static_cast<size_t>(index)].text : none;
+    return index >= 0 && index < GetCount() ? std::string(choices.Get(static_cast<size_t>(index))) : std::string();
+}
+
+std::vector<SelectboxChoice> SelectboxObject::GetChoices() const
+{
+    std::vector<SelectboxChoice> all;
+    for (int32_t i = 0; i < GetCount(); ++i) {
+        const std::string text = GetString(i);
+        const WordObject* const word = shownWord->get();
+        const bool isShown = i == current && word && word->GetText() == text;
+        all.push_back({ isShown ? word : nullptr, wordOffsetInBox, text });
+    }
+    return all;
 }
 
 void SelectboxObject::PlaceParts()
@@ -135,6 +136,19 @@ void SelectboxObject::KeepCurrentInRange()
     current = before == held ? 0 : last;
 }
 
+// The word of the choice that is shown; null where there is no text.
+WordObject* SelectboxObject::RenderCurrent()
+{
+    const std::string text = GetString(current);
+    if (text.empty())
+        return nullptr;
+    if (!*shownWord || (*shownWord)->GetText() != text) {
+        *shownWord = std::make_unique<WordObject>();
+        (*shownWord)->SetText(text);
+    }
+    return shownWord->get();
+}
+
 bool SelectboxObject::Draw(uint16_t* dest, int32_t pitch)
 {
     RepeatHeldStep();
@@ -143,12 +157,9 @@ bool SelectboxObject::Draw(uint16_t* dest, int32_t pitch)
     DrawPart(upButton->get(), dest, pitch);
     DrawPart(downButton->get(), dest, pitch);
     KeepCurrentInRange();
-    if (!choices.empty()) {
-        const SelectboxChoice& choice = choices[static_cast<size_t>(current)];
-        if (choice.word) {
-            choice.word->SetPos(pos + choice.offset);
-            choice.word->Draw(dest, pitch);
-        }
+    if (WordObject* const word = RenderCurrent()) {
+        word->SetPos(pos + wordOffsetInBox);
+        word->Draw(dest, pitch);
     }
     return dest && pitch >= 1;
 }

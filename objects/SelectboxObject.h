@@ -4,6 +4,7 @@
 #include "objects/Loaded.h"
 #include "objects/PictureObject.h"
 #include "objects/ScreenObject.h"
+#include "objects/TextList.h"
 #include "objects/WordObject.h"
 
 #include <cstdint>
@@ -11,22 +12,11 @@
 #include <string>
 #include <vector>
 
-// One string of a select box and its rendered word; an empty string has none. A copy renders a word of its own.
+// One choice of a select box. It is rendered when it is shown, and no longer than that.
 struct SelectboxChoice {
-    std::unique_ptr<WordObject> word;
+    const WordObject* word = nullptr; // null while another choice is shown, and for an empty text
     vec offset { 0, 0 }; // of the word, from the select box's pos
     std::string text;
-
-    SelectboxChoice() = default;
-    SelectboxChoice(const std::string& choiceText, vec wordOffset);
-    SelectboxChoice(const SelectboxChoice& other)
-        : SelectboxChoice(other.text, other.offset)
-    {
-    }
-    SelectboxChoice& operator=(const SelectboxChoice& other) { return *this = SelectboxChoice(other); }
-    SelectboxChoice(SelectboxChoice&&) = default;
-    SelectboxChoice& operator=(SelectboxChoice&&) = default;
-    ~SelectboxChoice() = default;
 };
 
 // A select box: an edit box that shows one choice out of a list, with an up and a down button that step through it and
@@ -43,10 +33,11 @@ public:
     bool AddString(const std::string& text);
     // Nothing for an index outside the list.
     void RemoveString(int32_t index);
-    int32_t GetCount() const { return static_cast<int32_t>(choices.size()); }
+    int32_t GetCount() const { return static_cast<int32_t>(choices.GetCount()); }
     // The empty text for an index outside the list.
-    const std::string& GetString(int32_t index) const;
-    const std::vector<SelectboxChoice>& GetChoices() const { return choices; }
+    std::string GetString(int32_t index) const;
+    // The words stay the select box's, until it is drawn again.
+    std::vector<SelectboxChoice> GetChoices() const;
 
     bool Draw(uint16_t* dest, int32_t pitch) override;
     // True for a left press on one of the buttons, which also steps.
@@ -84,6 +75,7 @@ private:
     void PlaceParts();
     void RepeatHeldStep();
     void KeepCurrentInRange();
+    WordObject* RenderCurrent();
 
     Loaded<std::unique_ptr<PictureObject>> editPicture;
     vec editSize { 0, 0 };
@@ -96,7 +88,8 @@ private:
     vec downOffset { 0, 0 };
     vec downSize { 0, 0 };
     std::string downFile;
-    std::vector<SelectboxChoice> choices;
+    TextList choices;
+    Loaded<std::unique_ptr<WordObject>> shownWord; // the choice drawn last that had a text
     int32_t current = 0;
     int32_t scroll = 0;
     uint32_t scrollTick = 0;

@@ -111,3 +111,24 @@ TEST_F(SelectboxObjectTest, IsCopiedWithoutWhatWasBuiltButWithWordsOfItsOwn)
         EXPECT_EQ(canvas, look);
     }
 }
+
+TEST_F(SelectboxObjectTest, ShowsTheTextThatStandsAtTheCurrentPlaceWhateverWasRemoved)
+{
+    for (const char* text : { "i", "mmmm", "", "mm" })
+        box.AddString(text);
+    Draw(box);
+    const ptrdiff_t thin = Count(blue);
+    EXPECT_EQ(box.GetChoices()[0].word->GetText(), "i");
+    EXPECT_EQ(box.GetChoices()[1].word, nullptr);
+    Click(onDown);
+    Draw(box);
+    const ptrdiff_t wide = Count(blue);
+    EXPECT_GT(wide, thin);
+    box.RemoveString(1);
+    box.RemoveString(0);
+    EXPECT_EQ(box.GetString(0), "");
+    EXPECT_EQ(box.GetString(1), "mm");
+    Draw(box);
+    EXPECT_EQ(Count(blue), wide / 2);
+    EXPECT_EQ(box.GetCurrent(), 1);
+}
