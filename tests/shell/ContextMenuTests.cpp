@@ -11,20 +11,21 @@ class ContextMenus : public AllKinds { };
 
 TEST_F(ContextMenus, OfferWhatFitsTheKind)
 {
-    const char* general = "物件特性,推至最下層,拉至最上層,";
-    const char* menus[] = { general, general, "Play,Pause,Restart,動畫特性,", general,
-        "改變 CheckBox 狀態,CheckBox 特性,", "變更選項," };
+    shell.editing.SelectOnly(Word, { 0, 0 });
+    const WORD firstItems[] = { MenuObjectProperties, MenuObjectProperties, MenuPlay, MenuObjectProperties,
+        MenuToggleCheckBox, MenuSelectboxChoices };
     for (const int32_t object : { Picture, Button, Animation, Word, CheckBox, Selectbox }) {
         Choose(On(object), 0);
-        std::string shown;
-        for (const auto& item : desktop.Menus().back().items)
-            shown += item.text + ",";
-        EXPECT_EQ(shown, menus[object]);
-        EXPECT_EQ(desktop.Menus().back().at.y, shell.mainWindow->place.top + On(object).y);
+        const platform::ShownMenu& menu = desktop.Menus().back();
+        EXPECT_EQ(menu.items[0].id, firstItems[object]);
+        EXPECT_EQ(menu.at.x, shell.mainWindow->place.left + On(object).x);
+        EXPECT_EQ(menu.at.y, shell.mainWindow->place.top + On(object).y);
     }
     desktop.RightPress(700, 500); // empty canvas has no menu
     Play();
     EXPECT_EQ(shell.editing.GetContextPoint(), vec(700, 500));
+    EXPECT_EQ(shell.editing.GetPointer(), vec(700, 500));
+    EXPECT_EQ(Selected(), std::vector<int32_t> { Word });
 }
 
 TEST_F(ContextMenus, MoveAnObjectToTheBottomOrTheTop)
@@ -37,6 +38,10 @@ TEST_F(ContextMenus, MoveAnObjectToTheBottomOrTheTop)
     EXPECT_EQ(ObjectAt(Button).GetLayer(), 5);
     EXPECT_EQ(ObjectAt(Picture).GetLayer(), 0);
     EXPECT_EQ(ObjectAt(Selectbox).GetLayer(), 4);
+    desktop.MoveTo(On(Word).x, On(Word).y);
+    Play();
+    SendMessageA(shell.mainWindow, WM_COMMAND, MenuToTop, 0); // takes the object under the pointer
+    EXPECT_EQ(ObjectAt(Word).GetLayer(), 5);
 }
 
 TEST_F(ContextMenus, LeaveThePointerOnWhatLiesUnderItAfterwards)
@@ -73,7 +78,9 @@ TEST_F(ContextMenus, PlayPauseAndRestartAnAnimation)
     EXPECT_EQ(animation.GetFrame(), 1);
     Choose(On(Animation), MenuPause);
     EXPECT_FALSE(animation.IsPlaying());
-    Choose(On(Animation), MenuRestart);
+    desktop.MoveTo(700, 500); // the menu's object is the one at the right press
+    Play();
+    SendMessageA(shell.mainWindow, WM_COMMAND, MenuRestart, 0);
     EXPECT_EQ(animation.GetFrame(), 0);
 }
 
@@ -90,17 +97,24 @@ TEST_F(ContextMenus, CommandsDoNothingWhereTheyDoNotApply)
 {
     for (const POINT& at : { On(Word), POINT { 700, 500 } }) { // a word has no properties; the other object has moved
         shell.editing.SetContextPoint({ at.x, at.y });
-        for (const uint16_t id : { MenuObjectProperties, MenuPlay, MenuPause, MenuRestart, MenuAnimationProperties,
+        for (const WORD id : { MenuObjectProperties, MenuPlay, MenuPause, MenuRestart, MenuAnimationProperties,
                  MenuToggleCheckBox, MenuCheckBoxProperties, MenuSelectboxChoices })
             SendMessageA(shell.mainWindow, WM_COMMAND, id, 0);
     }
     EXPECT_EQ(desktop.Dialogs().size(), 2U); // those that made word and check box
     EXPECT_EQ(LatestMessage(), "");
+}
 
+TEST_F(ContextMenus, SayThatADialogCannotBeMade)
+{
     const platform::Module bare {};
     shell.instance = &bare;
-    Choose(On(Picture), MenuObjectProperties);
+    for (const auto& [object, item] : { std::pair { Picture, MenuObjectProperties }, { Button, MenuObjectProperties },
+             { Animation, MenuAnimationProperties }, { CheckBox, MenuCheckBoxProperties } })
+        Choose(On(object), item);
+    EXPECT_EQ(desktop.MessageBoxes().size(), 4U);
     EXPECT_EQ(LatestMessage(), "Dialog Error: 產生 Dialog 時發生錯誤");
+    EXPECT_EQ(desktop.MessageBoxes().back().owner, shell.mainWindow);
 }
 
 } // namespace

@@ -228,7 +228,7 @@ TEST_F(Dialogs, WordAndCheckBoxAreMadeOfWhatIsTyped)
                 dialog.SetText(WordTextField, text);
                 dialog.SetText(WordRedField, "300");
                 SetWindowTextA(GetDlgItem(dialog.Handle(), WordGreenField), "-5"); // as pasting may
-                dialog.SetText(WordBlueField, "x7"); // letters are not taken
+                dialog.SetText(WordBlueField, "x77"); // letters are not taken
                 dialog.Press(button);
             });
             Run(command);
@@ -237,7 +237,7 @@ TEST_F(Dialogs, WordAndCheckBoxAreMadeOfWhatIsTyped)
     ASSERT_EQ(shell.editing.GetObjectCount(), 8);
     const std::string taken = platform::CodePageFromUtf8(longText).substr(0, 259);
     EXPECT_EQ(ObjectAt<WordObject>(6).GetText(), taken);
-    EXPECT_EQ(ObjectAt<WordObject>(6).GetTextColor(), SPic16X_::Color16_(0x0700FF));
+    EXPECT_EQ(ObjectAt<WordObject>(6).GetTextColor(), SPic16X_::Color16_(0x4D00FF));
     EXPECT_EQ(ObjectAt<CheckBoxObject>(7).GetLabelText(), taken);
     EXPECT_EQ(ObjectAt<CheckBoxObject>(7).GetLabel()->GetText(), taken);
 }
@@ -247,7 +247,7 @@ TEST_F(Dialogs, EditNothingOnceTheirObjectIsDeleted)
     for (const auto& [object, item] : propertyMenus) {
         Choose(On(object), item, [this](DialogDriver& dialog) {
             SendMessageA(shell.mainWindow, WM_KEYDOWN, VK_DELETE, 0);
-            dialog.Press(ConfirmButton);
+            SendMessageA(dialog.Handle(), WM_COMMAND, 1 << 16 | ConfirmButton, 0); // the low half is the control
             if (dialog.IsOpen())
                 dialog.CloseBox();
         });

@@ -32,6 +32,7 @@ protected:
 
     // The panel, then the canvas.
     static constexpr int DrawingsOfAFrame = 2;
+    static constexpr uint32_t BackgroundColour = 0x393939; // as the window shows it
 
     // A grey picture file in the folder "Image" (or in the current one once the designer has moved into it), and an
     // object that shows such a picture.

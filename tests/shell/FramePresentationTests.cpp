@@ -1,3 +1,4 @@
+#include "platform/Gdi.h"
 #include "shell/FramePresentation.h"
 #include "tests/shell/EditorTest.h"
 
@@ -6,18 +7,27 @@
 namespace {
 
 constexpr uint32_t red = 0xFF0000;
-constexpr uint32_t white = 0xFFFFFF;
 
 class FramePresentation : public EditorTest {
 protected:
-    // Whether the status panel has a text on this line, counted from 1.
-    bool HasLine(int number) const
+    // Whether the strip beside the canvas shows these lines in the status panel and, around it, what was there before.
+    bool ShowsPanel(const std::vector<std::string>& lines)
     {
-        for (int y = 380 + 20 * number; y < 400 + 20 * number; ++y)
-            for (int x = 810; x < 1000; ++x)
-                if (desktop.Pixel(x, y) != white)
-                    return true;
-        return false;
+        HDC context = GetDC(shell.mainWindow);
+        HBRUSH before = CreateSolidBrush(RGB(1, 2, 3));
+        const RECT strip { 800, 0, 1000, 600 };
+        const RECT panel { 810, 400, 1000, 600 };
+        FillRect(context, &strip, before);
+        PresentFrame();
+        const std::vector<uint32_t> presented = desktop.Screen().pixels;
+        FillRect(context, &strip, before);
+        FillRect(context, &panel, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        int y = 400 - 20;
+        for (const std::string& line : lines)
+            TextOutA(context, 810, y += 20, line.c_str(), static_cast<int>(line.size()));
+        ReleaseDC(shell.mainWindow, context);
+        DeleteObject(before);
+        return presented == desktop.Screen().pixels;
     }
 };
 
@@ -28,7 +38,7 @@ TEST_F(FramePresentation, FitsASelectedObjectAndOutlinesItsVisiblePartOnTheInsid
     shell.editing.AddToSelection(0, { 100, 580 });
     PresentFrame();
     for (const POINT inside :
-        { POINT { 100, 580 }, { 139, 580 }, { 100, 599 }, { 139, 599 }, { 120, 580 }, { 100, 590 } })
+        { POINT { 100, 580 }, { 139, 580 }, { 100, 599 }, { 139, 599 }, { 120, 580 }, { 120, 599 } })
         EXPECT_EQ(desktop.Pixel(inside.x, inside.y), red) << inside.x << "," << inside.y;
     for (const POINT outside : { POINT { 99, 580 }, { 140, 599 }, { 120, 579 }, { 101, 581 }, { 138, 598 } })
         EXPECT_NE(desktop.Pixel(outside.x, outside.y), red) << outside.x << "," << outside.y;
@@ -39,12 +49,14 @@ TEST_F(FramePresentation, FitsASelectedObjectAndOutlinesItsVisiblePartOnTheInsid
 
 TEST_F(FramePresentation, TellsThreeMoreLinesOnceAnObjectIsCurrent)
 {
-    PresentFrame();
-    EXPECT_TRUE(HasLine(2) && !HasLine(3));
-    AddPicture({ 0, 0 }, { 40, 30 });
-    desktop.MoveTo(5, 5);
+    EXPECT_TRUE(ShowsPanel({ "Mouse Pos : x = 0, y = 0", "Total Layer Number = 0" }));
+    AddPicture({ 0, 0 }, { 10, 10 });
+    AddPicture({ 100, 580 }, { 40, 30 }).SetPos({ 100, 580 });
+    shell.editing.SetObjectCount(7);
+    desktop.MoveTo(105, 590);
     Play();
-    EXPECT_TRUE(HasLine(5) && !HasLine(6));
+    EXPECT_TRUE(ShowsPanel({ "Mouse Pos : x = 105, y = 590", "Total Layer Number = 7", "Object Layer = 1",
+        "Object Position = ( 100, 580 )", "Object PicSize = ( 40, 20 )" }));
 }
 
 } // namespace

@@ -1,5 +1,8 @@
+#include "platform/CodePage.h"
+#include "platform/Gdi.h"
 #include "platform/User.h"
 #include "resources/ProgramResources.h"
+#include "shell/CommandButtons.h"
 #include "shell/FramePresentation.h"
 #include "shell/MainLoop.h"
 #include "shell/StartUp.h"
@@ -19,16 +22,17 @@ TEST_F(StartingUp, PutsAThousandBySixHundredPixelsInTheMiddleOfTheDisplay)
 {
     struct Case {
         SIZE display, frame;
-        int left; // of the outer rectangle
+        POINT client; // the corner of the client area
     };
-    for (const Case& each : { Case { { 1921, 1080 }, { 6, 32 }, 460 }, Case { { 800, 480 }, { 0, 0 }, 0 } }) {
+    for (const Case& each :
+        { Case { { 1921, 1081 }, { 6, 32 }, { 463, 269 } }, Case { { 800, 480 }, { 0, 0 }, { 0, 0 } } }) {
         desktop.SetDisplaySize(each.display);
         desktop.SetFrameSize(each.frame);
         ASSERT_TRUE(StartUp(&ProgramResources(), SW_SHOWNORMAL));
         EXPECT_EQ(desktop.Screen().width, 1000);
         EXPECT_EQ(desktop.Screen().height, 600);
-        EXPECT_EQ(shell.mainWindow->place.left, each.left + each.frame.cx / 2);
-        EXPECT_EQ(GetDlgItem(shell.mainWindow, 104)->place.top, 240); // the last of the nine commands
+        EXPECT_EQ(shell.mainWindow->place.left, each.client.x);
+        EXPECT_EQ(shell.mainWindow->place.top, each.client.y);
         SendMessageA(shell.mainWindow, WM_CLOSE, 0, 0);
         std::filesystem::remove("Image/Basic_background.bmp"); // it can be done without
     }
@@ -54,6 +58,56 @@ TEST_F(StartingUp, ShowsABackgroundOnWhichANewWordCanBeRead)
         for (int x = 0; x < 300; ++x)
             darkest = std::min(darkest, Luminance(desktop.Pixel(x, y)));
     EXPECT_GE((darkest + 0.05) / (Luminance(0x0000FF) + 0.05), 5);
+}
+
+TEST_F(StartingUp, EndsWithZeroWhenTheWindowCannotBeMade)
+{
+    WNDCLASSEXA refusing;
+    refusing.lpszClassName = "Tobrik"; // the editor's own class cannot be registered then
+    refusing.lpfnWndProc = [](HWND, UINT message, WPARAM, LPARAM) { return LRESULT { message == WM_CREATE ? -1 : 0 }; };
+    RegisterClassExA(&refusing);
+    EXPECT_EQ(RunEditor(&ProgramResources(), SW_SHOWNORMAL), 0);
+    EXPECT_EQ(desktop.TickCount(), 0U); // the loop never ran
+}
+
+class MainWindow : public EditorTest { };
+
+TEST_F(MainWindow, BearsTheProgramsTitleAndIcons)
+{
+    EXPECT_EQ(platform::Utf8FromCodePage(shell.mainWindow->text), "編輯畫面輔助器");
+    EXPECT_TRUE(shell.mainWindow->closeBox);
+    EXPECT_TRUE(shell.mainWindow->visible);
+    EXPECT_FALSE(shell.mainWindow->erasePending); // it is painted at once
+    EXPECT_EQ(shell.mainWindow->largeIcon->id, 107);
+    EXPECT_EQ(shell.mainWindow->smallIcon->id, 108);
+}
+
+TEST_F(MainWindow, PresentsAFrameWhenItIsErasedOrMoved)
+{
+    HDC context = GetDC(shell.mainWindow);
+    std::fill(shell.mainWindow->surface.pixels.begin(), shell.mainWindow->surface.pixels.end(), 0U);
+    int drawn = desktop.TimesDrawn();
+    EXPECT_EQ(SendMessageA(shell.mainWindow, WM_ERASEBKGND, reinterpret_cast<WPARAM>(context), 0), TRUE);
+    EXPECT_EQ(desktop.TimesDrawn(), drawn + DrawingsOfAFrame);
+    EXPECT_EQ(desktop.Pixel(900, 350), 0xFFFFFFU); // erased by the default handler
+    ReleaseDC(shell.mainWindow, context);
+    drawn = desktop.TimesDrawn();
+    desktop.MoveWindowTo(5, 5);
+    desktop.PlayInput();
+    EXPECT_EQ(desktop.TimesDrawn(), drawn + DrawingsOfAFrame);
+}
+
+TEST_F(MainWindow, TakesTheLowHalfOfACommandAndThenTheFocus)
+{
+    int32_t made = 0;
+    for (const WPARAM id : { WPARAM { CommandInsertSelectbox }, WPARAM { 5 << 16 | CommandInsertSelectbox },
+             WPARAM { 107 }, WPARAM { 108 }, WPARAM { 109 }, WPARAM { 112 }, WPARAM { 32773 } }) {
+        made += (id & 0xFFFF) == CommandInsertSelectbox ? 1 : 0;
+        SetFocus(GetDlgItem(shell.mainWindow, CommandNew));
+        SendMessageA(shell.mainWindow, WM_COMMAND, id, 0);
+        EXPECT_EQ(shell.document.GetObjectCount(), made);
+        EXPECT_EQ(desktop.Focus(), shell.mainWindow);
+    }
 }
 
 class MainLoop : public EditorTest { };
@@ -97,9 +151,9 @@ TEST_F(MainLoop, PresentsFramesOnlyWhenNothingElseIsToDo)
         EXPECT_TRUE(TurnMainLoop(status));
     EXPECT_EQ(desktop.TimesDrawn(), drawn);
     for (int i = 0; i < 50; ++i)
-        desktop.ClickButton(104); // is sent
+        desktop.ClickButton(CommandNew); // is sent
     EXPECT_TRUE(TurnMainLoop(status));
-    EXPECT_EQ(desktop.TimesDrawn(), drawn + 2); // the panel, then the canvas
+    EXPECT_EQ(desktop.TimesDrawn(), drawn + DrawingsOfAFrame);
     EXPECT_EQ(desktop.TickCount(), before + 100);
 }
 
