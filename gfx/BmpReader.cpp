@@ -204,7 +204,8 @@ bool ReadBmpIndices_(const char* fileName, std::span<uint8_t> indices)
     const auto height = static_cast<uint32_t>(reader.Height_());
     if (indices.size() != width * height)
         return false;
-    for (uint32_t row = 0; row < height; ++row)
+    // The bottom row is stored first: from there on the file is read forwards.
+    for (uint32_t row = height; row-- > 0;)
         if (!reader.ReadRow_(row, indices.data() + row * width))
             return false;
     return true;

@@ -25,7 +25,8 @@ public:
     [[nodiscard]] bool Open_(const char* fileName);
     // Why the last Open_ answered false.
     const SLoadFailure_& Failure_() const { return failure; }
-    // Row 0 is the top one. Writes width * bits / 8 bytes.
+    // Row 0 is the top one, and the last one in the file: rows are read quickest from the highest number down. Writes
+    // width * bits / 8 bytes.
     [[nodiscard]] bool ReadRow_(uint32_t row, uint8_t* buffer);
     void Close_();
 

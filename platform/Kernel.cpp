@@ -15,8 +15,8 @@
 
 namespace platform {
 
-// An open file with the piece of it that was read last, so that many small reads, forwards or backwards, cost few
-// calls of the system.
+// An open file with the piece of it that was read last, so that many small reads on a way forwards cost few calls of
+// the system.
 struct File {
     static constexpr int64_t pieceBytes = 32768;
 
@@ -37,23 +37,18 @@ struct File {
     ~File() { close(descriptor); }
 
     bool HoldsPosition() const { return position >= pieceStart && position < pieceStart + pieceLength; }
-    bool FetchPiece(int64_t wanted);
+    bool FetchPiece();
 };
 
-// Fetches a piece with the next byte in it, or an empty one at the end of the file. A reader on its way backwards gets
-// the piece that ends with the `wanted` bytes, so that the reads before them find theirs there too.
-bool File::FetchPiece(int64_t wanted)
+// Fetches the piece that begins with the next byte, an empty one at the end of the file.
+bool File::FetchPiece()
 {
-    const bool backwards = position < pieceStart;
-    pieceStart = backwards ? std::max<int64_t>(0, position + std::min(wanted, pieceBytes) - pieceBytes) : position;
-    pieceLength = 0;
     ssize_t count = 0;
-    // Some file systems give less than they are asked for.
-    do {
-        count = pread(
-            descriptor, piece + pieceLength, static_cast<size_t>(pieceBytes - pieceLength), pieceStart + pieceLength);
-        pieceLength += std::max<ssize_t>(count, 0);
-    } while (count > 0 ? !HoldsPosition() : count < 0 && errno == EINTR);
+    do
+        count = pread(descriptor, piece, sizeof piece, position);
+    while (count < 0 && errno == EINTR);
+    pieceStart = position;
+    pieceLength = std::max<ssize_t>(count, 0);
     return count >= 0;
 }
 
@@ -118,7 +113,7 @@ BOOL ReadFile(HANDLE file, void* buffer, DWORD count, DWORD* read, void*)
         return FALSE;
     DWORD done = 0;
     while (done < count) {
-        if (!file->HoldsPosition() && !file->FetchPiece(count - done))
+        if (!file->HoldsPosition() && !file->FetchPiece())
             return FALSE;
         if (!file->HoldsPosition())
             break; // the end of the file
