@@ -42,8 +42,6 @@ public:
     // The client surface of a top-level window was drawn to.
     virtual void SurfaceDrawn(Window& window) = 0;
     virtual void FocusChanged(Window& window) = 0;
-    // The window that takes all mouse input; null: none.
-    virtual void CaptureChanged(Window* window) = 0;
     // How much larger the outer rectangle of a top-level window or dialog is than its client area. The frame below is
     // taken to be as wide as the one at each side; the rest of the height is above.
     virtual SIZE FrameSize(const Window& window) = 0;

@@ -58,13 +58,13 @@ void SendCommand(Window& window, int id, HWND control)
 
 } // namespace
 
-void PostMouse(Window& window, UINT message, POINT at, WPARAM keys)
+bool PostMouse(Window& window, UINT message, POINT at, WPARAM keys)
 {
     if (!TakesInputAsRoot(window, WindowKind::TopLevel) || !TakesMouse(window, at))
-        return;
+        return false;
     if (!window.wantsDoubleClicks)
         message = WithoutDoubleClicks(message);
-    PostMessageA(&window, message, keys, MousePoint(at));
+    return PostMessageA(&window, message, keys, MousePoint(at)) == TRUE;
 }
 
 void PostKeyDown(Window& window, int virtualKey)

@@ -2,7 +2,6 @@
 
 #include "platform/Window.h"
 
-#include <functional>
 #include <string_view>
 
 // What a desktop reports to the program. Input is queued; what the window system sends (a click on a button, the close
@@ -10,8 +9,8 @@
 namespace platform {
 
 // A mouse message of a top-level window: client coordinates, MK_ flags. Outside the client area and over a button it is
-// dropped unless the mouse is captured.
-void PostMouse(Window& window, UINT message, POINT at, WPARAM keys);
+// dropped unless the mouse is captured. False: the program does not hear of it.
+bool PostMouse(Window& window, UINT message, POINT at, WPARAM keys);
 void PostKeyDown(Window& window, int virtualKey);
 
 // A push button of a window or dialog was pressed, or a check box clicked (which has toggled `checked` already).
@@ -25,13 +24,5 @@ void DialogKey(Window& dialog, int command);
 // The user changed a control. Texts are code page 950. Typing into a drop-down's field drops its selection.
 void EditTyped(Window& control, std::string_view text);
 void ItemSelected(Window& dropDown, int index);
-
-// Forgets every window, class, menu and queued message, as the end of a process does: no messages are sent, but the
-// desktop is told of each window that it has open. A desktop calls this before it goes.
-void DiscardWindows();
-
-// Runs an inner message loop until `done` answers true: input is let in and messages are dispatched. A quit request
-// waits for the loop outside.
-void RunModalLoop(const std::function<bool()>& done);
 
 } // namespace platform

@@ -1,9 +1,10 @@
 #include "platform/Desktop.h"
-#include "platform/DesktopEvents.h"
 #include "platform/DialogWindow.h"
 #include "platform/InputState.h"
+#include "platform/ModalLoop.h"
 #include "platform/Names.h"
 #include "platform/User.h"
+#include "platform/WindowDestruction.h"
 #include "platform/WindowTable.h"
 
 namespace {

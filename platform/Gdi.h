@@ -31,44 +31,46 @@ struct BITMAPINFO {
     BITMAPINFOHEADER bmiHeader;
 };
 
-// The drawing context of a window's client area, null when there is no such window; ReleaseDC gives it back and lets
-// the desktop show what was drawn. Once the window is gone, its context draws nowhere.
+// Contexts and what they draw with (DeviceContext.cpp). The drawing context of a window's client area is null when
+// there is no such window; ReleaseDC gives it back and lets the desktop show what was drawn. Once the window is gone,
+// its context draws nowhere.
 HDC GetDC(HWND window);
 int ReleaseDC(HWND window, HDC context);
 // A context in memory; it draws nowhere until a bitmap is selected. Only a null reference context is supported.
 HDC CreateCompatibleDC(HDC reference);
 BOOL DeleteDC(HDC context);
-
 // Each kind of object (bitmap, font) is selected separately; the previous one of the kind comes back, null on failure.
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object);
+COLORREF SetTextColor(HDC context, COLORREF color);
+int SetBkMode(HDC context, int mode);
+// Pixels added after every character (a two-byte character is one), in measuring and drawing. Returns the old value.
+int SetTextCharacterExtra(HDC context, int extra);
+
+// Brushes, bitmaps and fonts (GdiCreation.cpp). Stock objects and system brushes belong to the system; deleting them
+// does nothing.
 BOOL DeleteObject(HGDIOBJ object);
-// Stock objects and system brushes belong to the system; deleting them does nothing.
 HGDIOBJ GetStockObject(int index);
 HBRUSH GetSysColorBrush(int index);
 HBRUSH CreateSolidBrush(COLORREF color);
-
 // Top-down 16-bit 5-5-5 bitmaps only, of at most 1 GB, black at first; `bits` receives the pixels, rows padded to 4
 // bytes. Null when there is no such bitmap or no memory for it.
 HBITMAP CreateDIBSection(
     HDC context, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section, DWORD sectionOffset);
-// Copies scan lines of a top-down 16-bit 5-5-5 bitmap. Returns the number of lines copied.
-int SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int sourceX, int sourceY, UINT firstLine,
-    UINT lines, const void* bits, const BITMAPINFO* info, UINT usage);
-
-BOOL SetRect(RECT* rectangle, int left, int top, int right, int bottom);
-int FillRect(HDC context, const RECT* rectangle, HBRUSH brush);
-// A frame one pixel wide on the inside of the rectangle.
-int FrameRect(HDC context, const RECT* rectangle, HBRUSH brush);
-
 // `height` is the cell height in pixels. Weights, slants and faces other than the default are not offered. Making a
 // font is cheap: its face is looked up when it is first used.
 HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic, DWORD underline,
     DWORD strikeOut, DWORD charSet, DWORD outPrecision, DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily,
     const char* faceName);
-// Pixels added after every character (a two-byte character is one), in measuring and drawing. Returns the old value.
-int SetTextCharacterExtra(HDC context, int extra);
+
+// Pixels and rectangles (GdiDrawing.cpp). SetDIBitsToDevice copies scan lines of a top-down 16-bit 5-5-5 bitmap and
+// returns the number of lines copied.
+int SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int sourceX, int sourceY, UINT firstLine,
+    UINT lines, const void* bits, const BITMAPINFO* info, UINT usage);
+BOOL SetRect(RECT* rectangle, int left, int top, int right, int bottom);
+int FillRect(HDC context, const RECT* rectangle, HBRUSH brush);
+// A frame one pixel wide on the inside of the rectangle.
+int FrameRect(HDC context, const RECT* rectangle, HBRUSH brush);
+
+// Texts (GdiText.cpp). TextOutA draws `length` bytes with the top-left corner of the first cell at (x, y).
 BOOL GetTextExtentPoint32A(HDC context, const char* text, int length, SIZE* size);
-COLORREF SetTextColor(HDC context, COLORREF color);
-int SetBkMode(HDC context, int mode);
-// Draws `length` bytes with the top-left corner of the first cell at (x, y).
 BOOL TextOutA(HDC context, int x, int y, const char* text, int length);

@@ -11,16 +11,6 @@ namespace {
 HWND focusedWindow = nullptr;
 HWND capturedWindow = nullptr;
 
-HWND ChangeCapture(HWND window)
-{
-    if (window == capturedWindow)
-        return window;
-    const HWND previous = std::exchange(capturedWindow, window);
-    if (platform::Desktop* desktop = platform::InstalledDesktop())
-        desktop->CaptureChanged(window);
-    return previous;
-}
-
 } // namespace
 
 namespace platform {
@@ -35,7 +25,7 @@ void ForgetInputOf(const Window& root)
     if (focusedWindow && &RootOf(*focusedWindow) == &root)
         focusedWindow = nullptr;
     if (capturedWindow && &RootOf(*capturedWindow) == &root)
-        ChangeCapture(nullptr);
+        capturedWindow = nullptr;
 }
 
 ModalQuestion::ModalQuestion(Window* askingWindow)
@@ -68,12 +58,12 @@ HWND SetFocus(HWND window)
 
 HWND SetCapture(HWND window)
 {
-    return platform::IsWindow(window) ? ChangeCapture(window) : nullptr;
+    return platform::IsWindow(window) ? std::exchange(capturedWindow, window) : nullptr;
 }
 
 BOOL ReleaseCapture()
 {
-    ChangeCapture(nullptr);
+    capturedWindow = nullptr;
     return TRUE;
 }
 

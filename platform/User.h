@@ -133,15 +133,17 @@ HWND SetCapture(HWND window);
 BOOL ReleaseCapture();
 int16_t GetKeyState(int virtualKey); // negative: held down
 
-// Messages (MessageQueue.cpp). PeekMessageA takes (PM_REMOVE) the next message of all windows without waiting; a quit
+// Messages. PeekMessageA (MessageTaking.cpp) takes (PM_REMOVE) the next message of all windows without waiting; a quit
 // request comes once nothing else is left.
 BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
+// To the queue (MessageQueue.cpp).
+BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+void PostQuitMessage(int exitCode);
+// To the window's procedure (MessageDispatch.cpp).
 BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-void PostQuitMessage(int exitCode);
 
 // Menus (Menu.cpp). A choice arrives as a posted WM_COMMAND of the owner.
 HMENU LoadMenuA(HINSTANCE instance, const char* name);

@@ -2,6 +2,7 @@
 #include "platform/Names.h"
 #include "platform/User.h"
 #include "platform/WindowClasses.h"
+#include "platform/WindowDestruction.h"
 #include "platform/WindowPlacement.h"
 #include "platform/WindowTable.h"
 

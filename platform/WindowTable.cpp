@@ -1,11 +1,6 @@
 #include "platform/WindowTable.h"
 
 #include "platform/Desktop.h"
-#include "platform/DesktopEvents.h"
-#include "platform/InputState.h"
-#include "platform/Menu.h"
-#include "platform/MessageQueue.h"
-#include "platform/WindowClasses.h"
 
 #include <algorithm>
 
@@ -22,16 +17,6 @@ std::vector<std::unique_ptr<Window>>& Table()
 bool IsRoot(const Window& window)
 {
     return window.kind == WindowKind::TopLevel || window.kind == WindowKind::Dialog;
-}
-
-void Forget(Window& root)
-{
-    ForgetInputOf(root);
-    DropMessagesOf(root);
-    Desktop* desktop = InstalledDesktop();
-    if (desktop && root.opened)
-        desktop->WindowClosed(root);
-    std::erase_if(Table(), [&](const auto& entry) { return entry.get() == &root; });
 }
 
 } // namespace
@@ -63,16 +48,9 @@ std::vector<Window*> RootWindows()
     return roots;
 }
 
-void DestroyWindow(Window& window)
+void RemoveWindow(Window& root)
 {
-    if (window.dying)
-        return;
-    window.dying = true;
-    for (Window* root : RootWindows())
-        if (IsWindow(root) && root->kind == WindowKind::Dialog && root->parent == &window)
-            DestroyWindow(*root);
-    SendMessageA(&window, WM_DESTROY, 0, 0);
-    Forget(window);
+    std::erase_if(Table(), [&root](const auto& entry) { return entry.get() == &root; });
 }
 
 Window& RootOf(Window& window)
@@ -96,15 +74,6 @@ void ShowChange(Window& window)
     Desktop* desktop = InstalledDesktop();
     if (desktop && RootOf(window).opened)
         desktop->WindowChanged(window);
-}
-
-void DiscardWindows()
-{
-    while (!Table().empty())
-        Forget(*Table().back());
-    ClearMessages();
-    ForgetClasses();
-    ForgetMenus();
 }
 
 } // namespace platform

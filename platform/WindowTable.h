@@ -15,9 +15,8 @@ bool IsWindow(const Window* window);
 Window& AddWindow(std::unique_ptr<Window> window);
 // The top-level windows and dialogs, oldest first.
 std::vector<Window*> RootWindows();
-// Ends a top-level window or a dialog with everything that belongs to it: its dialogs first, then it receives
-// WM_DESTROY, then it is gone with its controls, and messages still queued for it are dropped.
-void DestroyWindow(Window& window);
+// Takes a top-level window or a dialog off the table; its record goes.
+void RemoveWindow(Window& root);
 
 // The top-level window or dialog that a control lies in; of these, itself.
 Window& RootOf(Window& window);

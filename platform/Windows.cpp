@@ -1,7 +1,7 @@
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
-#include "platform/MessageQueue.h"
 #include "platform/User.h"
+#include "platform/WindowErasing.h"
 #include "platform/WindowPlacement.h"
 #include "platform/WindowTable.h"
 

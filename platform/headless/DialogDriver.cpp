@@ -3,14 +3,13 @@
 #include "platform/CodePage.h"
 #include "platform/DesktopEvents.h"
 #include "platform/WindowTable.h"
-#include "platform/headless/HeadlessDesktop.h"
 
 #include <algorithm>
 
 namespace platform {
 
-DialogDriver::DialogDriver(HeadlessDesktop& ownerDesktop, HWND openDialog)
-    : desktop(ownerDesktop)
+DialogDriver::DialogDriver(Problems& desktopsProblems, HWND openDialog)
+    : problems(desktopsProblems)
     , dialog(openDialog)
 {
 }
@@ -29,7 +28,7 @@ HWND DialogDriver::Control(int id) const
 {
     HWND control = GetDlgItem(dialog, id);
     if (!control)
-        desktop.Report("the dialog \"" + Title() + "\" has no control " + std::to_string(id));
+        problems.Report("the dialog \"" + Title() + "\" has no control " + std::to_string(id));
     return control;
 }
 
@@ -40,7 +39,7 @@ HWND DialogDriver::ControlFor(WindowKind kind, int id) const
         return nullptr;
     if (control->kind == kind && IsOpen() && TakesInput(*control))
         return control;
-    desktop.Report("control " + std::to_string(id) + " of the dialog \"" + Title() + "\" cannot be worked like that");
+    problems.Report("control " + std::to_string(id) + " of the dialog \"" + Title() + "\" cannot be worked like that");
     return nullptr;
 }
 
@@ -98,7 +97,7 @@ void DialogDriver::Select(int id, int index)
     if (!control)
         return;
     if (index < 0 || static_cast<size_t>(index) >= control->items.size())
-        desktop.Report("the list " + std::to_string(id) + " has no entry " + std::to_string(index));
+        problems.Report("the list " + std::to_string(id) + " has no entry " + std::to_string(index));
     else
         ItemSelected(*control, index);
 }
@@ -141,7 +140,7 @@ void DialogDriver::Key(int virtualKey)
 void DialogDriver::CloseBox()
 {
     if (!IsOpen() || !dialog->closeBox)
-        desktop.Report("the dialog \"" + Title() + "\" has no close box to press");
+        problems.Report("the dialog \"" + Title() + "\" has no close box to press");
     else
         CloseBoxClicked(*dialog);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Window.h"
+#include "platform/headless/Problems.h"
 
 #include <string>
 #include <string_view>
@@ -8,13 +9,11 @@
 
 namespace platform {
 
-class HeadlessDesktop;
-
 // The designer's hands in one open dialog; controls are named by id, texts are UTF-8. Working a control that is not
 // there, of another kind or disabled is a problem of the desktop and does nothing else.
 class DialogDriver {
 public:
-    DialogDriver(HeadlessDesktop& ownerDesktop, HWND openDialog);
+    DialogDriver(Problems& desktopsProblems, HWND openDialog);
 
     HWND Handle() const { return dialog; }
     bool IsOpen() const; // false as soon as it is ended
@@ -43,7 +42,7 @@ private:
     HWND Control(int id) const;
     HWND ControlFor(WindowKind kind, int id) const;
 
-    HeadlessDesktop& desktop;
+    Problems& problems;
     HWND dialog;
 };
 

@@ -1,11 +1,10 @@
 #include "platform/headless/HeadlessDesktop.h"
 
 #include "platform/CodePage.h"
-#include "platform/DesktopEvents.h"
+#include "platform/ProgramEnd.h"
 #include "platform/User.h"
 #include "platform/WindowTable.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -35,12 +34,12 @@ HeadlessDesktop::HeadlessDesktop()
 HeadlessDesktop::~HeadlessDesktop()
 {
     for (size_t left = dialogScripts.size(); left > 0; --left)
-        Report("a dialog that was expected never opened");
+        problems.Report("a dialog that was expected never opened");
     for (size_t left = menuAnswers.size(); left > 0; --left)
-        Report("a menu that was expected never opened");
+        problems.Report("a menu that was expected never opened");
     for (size_t left = fileAnswers.size(); left > 0; --left)
-        Report("a file chooser that was expected never opened");
-    if (!problems.empty())
+        problems.Report("a file chooser that was expected never opened");
+    if (problems.Any())
         std::abort();
     DiscardWindows();
     InstallDesktop(nullptr);
@@ -90,17 +89,6 @@ uint32_t HeadlessDesktop::Pixel(int x, int y) const
     return inside ? screen.At(x, y) : 0;
 }
 
-void HeadlessDesktop::Report(std::string problem)
-{
-    std::fprintf(stderr, "HeadlessDesktop: %s\n", problem.c_str());
-    problems.push_back(std::move(problem));
-}
-
-std::vector<std::string> HeadlessDesktop::TakeProblems()
-{
-    return std::exchange(problems, {});
-}
-
 void HeadlessDesktop::DebugOutput(std::string_view text)
 {
     debugMessages.push_back({ Utf8FromCodePage(text), std::string(text) });
@@ -122,38 +110,35 @@ void HeadlessDesktop::WindowClosed(Window& window)
     std::erase_if(openDialogs, [&](const OpenDialog& dialog) { return dialog.window == &window; });
 }
 
-bool HeadlessDesktop::IsKeyDown(int virtualKey)
-{
-    return (virtualKey == VK_SHIFT && (keysHeld & MK_SHIFT) != 0)
-        || (virtualKey == VK_CONTROL && (keysHeld & MK_CONTROL) != 0);
-}
-
 std::optional<POINT> HeadlessDesktop::PointerIn(const Window& window)
 {
-    return &window == MainWindow() && !leftButtonHeld ? pointer : std::nullopt;
+    return &window == MainWindow() ? FreePointer() : std::nullopt;
 }
 
 bool HeadlessDesktop::Pump(bool)
 {
-    const bool anyLeft = !openDialogs.empty() || !input.empty();
-    if (!openDialogs.empty())
-        WorkDialog();
-    else if (!input.empty())
-        LetNextInputIn();
-    else
+    if (openDialogs.empty() && !HasInput()) {
         CountIdlePump();
-    return anyLeft;
+        return false;
+    }
+    if (!openDialogs.empty()) {
+        WorkDialog();
+    } else {
+        idlePumps = 0;
+        LetNextInputIn(MainWindow());
+    }
+    return true;
 }
 
 void HeadlessDesktop::WorkDialog()
 {
     Window* dialog = openDialogs.back().window;
     if (const DialogScript script = std::exchange(openDialogs.back().script, nullptr)) {
-        DialogDriver driver(*this, dialog);
+        DialogDriver driver(problems, dialog);
         script(driver);
         return;
     }
-    Report("the dialog \"" + Utf8FromCodePage(dialog->text) + "\" was left open");
+    problems.Report("the dialog \"" + Utf8FromCodePage(dialog->text) + "\" was left open");
     EndDialog(dialog, 0);
 }
 
@@ -162,7 +147,7 @@ void HeadlessDesktop::CountIdlePump()
 {
     if (++idlePumps != maxIdlePumps)
         return;
-    Report("the program waits, but no input is left");
+    problems.Report("the program waits, but no input is left");
     PostQuitMessage(-1);
 }
 
@@ -177,16 +162,16 @@ uint32_t HeadlessDesktop::ShowMenu(Window&, const Menu& menu, POINT at)
     menus.push_back({ menu.items, at });
     const auto answer = TakeFirst(menuAnswers);
     if (!answer) {
-        Report("a menu opened without an answer");
+        problems.Report("a menu opened without an answer");
         return 0;
     }
     if (answer->pointer)
-        pointer = answer->pointer;
+        PointTo(*answer->pointer);
     for (const MenuItem& item : menu.items)
         if (item.id == answer->id)
             return item.id;
     if (answer->id != 0)
-        Report("the menu has no item " + std::to_string(answer->id));
+        problems.Report("the menu has no item " + std::to_string(answer->id));
     return 0;
 }
 
@@ -195,7 +180,7 @@ std::optional<std::string> HeadlessDesktop::ChooseFile(const FileRequest& reques
     fileDialogs.push_back(request);
     const auto answer = TakeFirst(fileAnswers);
     if (!answer)
-        Report("a file chooser opened without an answer");
+        problems.Report("a file chooser opened without an answer");
     return answer.value_or(std::nullopt);
 }
 

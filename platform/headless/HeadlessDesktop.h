@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/InputState.h"
 #include "platform/Menu.h"
+#include "platform/headless/DesignerInput.h"
 #include "platform/headless/DialogDriver.h"
 
 #include <deque>
@@ -32,16 +34,14 @@ struct DebugMessage {
 // A desktop in memory, worked by a test that plays the designer. It is the installed desktop for as long as it lives;
 // with it go all windows, classes and messages.
 //
-// The designer's input is queued: one piece is let in when the program asks for a message and none is queued, so that a
-// piece meets the program as its predecessor has left it. While a dialog is open the queue stands still and the
-// dialog's own script acts. Answers to dialogs, menus and file choosers are given in advance, in the order of their
-// questions.
+// While a dialog is open the designer's input stands still and the dialog's own script acts. Answers to dialogs, menus
+// and file choosers are given in advance, in the order of their questions.
 //
 // What a designer would be stuck with (a dialog left open, a menu or file chooser without an answer, a press on a
 // missing button) is a problem: the question is cancelled (a dialog ends with 0), the problem is written to stderr, and
 // the process is aborted when the desktop goes, unless the test has taken it with TakeProblems. Answers that were never
 // asked for are problems too.
-class HeadlessDesktop final : public Desktop {
+class HeadlessDesktop final : public Desktop, public DesignerInput {
 public:
     HeadlessDesktop();
     ~HeadlessDesktop() override;
@@ -53,36 +53,11 @@ public:
     void SetClock(uint32_t milliseconds) { clock = milliseconds; }
     void Advance(uint32_t milliseconds) { clock += milliseconds; }
 
-    // Queued input for the main window; points are client pixels, `keys` MK_SHIFT or MK_CONTROL held meanwhile (and,
-    // for GetKeyState, until the next piece of input). Whether the left button is held
-    // is kept track of; the right one never stays down.
-    void Press(int x, int y, WPARAM keys = 0);
-    void MoveTo(int x, int y, WPARAM keys = 0);
-    void Release(int x, int y, WPARAM keys = 0);
-    void Click(int x, int y, WPARAM keys = 0); // Press and Release; two of them are not a double click
-    void PressAgain(int x, int y, WPARAM keys = 0); // the second press of a double click
-    void DoubleClick(int x, int y, WPARAM keys = 0); // Click, PressAgain, Release
-    void Drag(POINT from, POINT to, WPARAM keys = 0); // Press, MoveTo, Release
-    void RightPress(int x, int y, WPARAM keys = 0);
-    void Key(int virtualKey, WPARAM keys = 0);
-    void ClickButton(int id);
-    void CloseBox();
-    void MoveWindowTo(int x, int y); // of the client area, on the display
-    // Moves the pointer at once, as happens while a question is open: the main window hears of it when it closes.
-    void PointTo(POINT at) { pointer = at; }
-    // Runs `step` between two pieces of input, for a look at how things stand.
-    void Do(std::function<void()> step);
-
     // Answers. A file name is native, from the chooser's folder when relative; a menu answered with 0 is dismissed.
     void OnDialog(std::function<void(DialogDriver&)> script);
     void AnswerMenu(uint32_t id, std::optional<POINT> pointer = {}); // which then lies there
     void AnswerFileDialog(std::string nativePath);
     void CancelFileDialog();
-
-    // Takes and dispatches messages until the input is used up, as a main loop does, without its idle step. A quit
-    // request stops it and stays pending.
-    void PlayInput();
-    bool HasInput() const { return !input.empty(); }
 
     // What came of it.
     Window* MainWindow() const; // the first top-level window that is open, or null
@@ -90,15 +65,14 @@ public:
     const Surface& Screen() const; // the main window's client area; empty without one
     int TimesDrawn() const { return timesDrawn; } // how often a drawing context was given back
     Window* Focus() const; // null when it went with its window
-    Window* Capture() const { return capture; }
+    Window* Capture() const { return CapturedWindow(); }
     const std::vector<ShownMessage>& MessageBoxes() const { return messageBoxes; }
     const std::vector<ShownMenu>& Menus() const { return menus; }
     const std::vector<FileRequest>& FileDialogs() const { return fileDialogs; }
     const std::vector<std::string>& Dialogs() const { return dialogTitles; } // UTF-8, as they opened
     const std::vector<DebugMessage>& DebugMessages() const { return debugMessages; }
 
-    void Report(std::string problem);
-    std::vector<std::string> TakeProblems();
+    std::vector<std::string> TakeProblems() { return problems.Take(); }
 
     uint32_t TickCount() override { return clock; }
     void Sleep(uint32_t milliseconds) override { clock += milliseconds; }
@@ -108,10 +82,9 @@ public:
     void WindowClosed(Window& window) override;
     void SurfaceDrawn(Window&) override { ++timesDrawn; }
     void FocusChanged(Window& window) override { focus = &window; }
-    void CaptureChanged(Window* window) override { capture = window; }
     SIZE FrameSize(const Window&) override { return frameSize; }
     SIZE DisplaySize() override { return displaySize; }
-    bool IsKeyDown(int virtualKey) override;
+    bool IsKeyDown(int virtualKey) override { return HoldsKey(virtualKey); }
     std::optional<POINT> PointerIn(const Window& window) override;
     bool Pump(bool wait) override;
     int ShowMessageBox(Window* owner, std::string_view text, std::string_view caption) override;
@@ -120,10 +93,6 @@ public:
 
 private:
     using DialogScript = std::function<void(DialogDriver&)>;
-    struct Input {
-        std::function<void(Window&)> act; // on the main window
-        WPARAM keys = 0;
-    };
     struct MenuAnswer {
         uint32_t id = 0;
         std::optional<POINT> pointer;
@@ -133,19 +102,12 @@ private:
         DialogScript script; // empty once it has run
     };
 
-    void Queue(std::function<void(Window&)> act, WPARAM keys = 0);
-    void QueueMouse(UINT message, int x, int y, WPARAM keys);
-    void LetNextInputIn();
     void WorkDialog();
     void CountIdlePump();
 
     SIZE frameSize { 6, 32 };
     SIZE displaySize { 1920, 1080 };
     uint32_t clock = 0;
-    std::deque<Input> input;
-    WPARAM keysHeld = 0;
-    bool leftButtonHeld = false;
-    std::optional<POINT> pointer; // client pixels of the main window; none: it is elsewhere
     int idlePumps = 0;
 
     std::deque<DialogScript> dialogScripts;
@@ -155,14 +117,12 @@ private:
     std::vector<Window*> topLevelWindows;
     std::vector<OpenDialog> openDialogs; // innermost last
     Window* focus = nullptr;
-    Window* capture = nullptr;
     int timesDrawn = 0;
     std::vector<ShownMessage> messageBoxes;
     std::vector<ShownMenu> menus;
     std::vector<FileRequest> fileDialogs;
     std::vector<std::string> dialogTitles;
     std::vector<DebugMessage> debugMessages;
-    std::vector<std::string> problems;
 };
 
 } // namespace platform

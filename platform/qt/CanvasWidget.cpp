@@ -166,13 +166,11 @@ void CanvasWidget::ReportMouse(QPoint point, Qt::KeyboardModifiers modifiers, Qt
 {
     if (!IsShown())
         return;
-    const bool inside = rect().contains(point) && !childAt(point);
     const WPARAM keys = MouseKeysOf(buttons, modifiers);
-    state.reports.Add(record, [this, point, inside, modifiers, keys, message] {
-        if (!inside && state.capture != &record)
+    state.reports.Add(record, [this, point, modifiers, keys, message] {
+        if (!PostMouse(record, message, { point.x(), point.y() }, keys))
             return false;
         state.modifiers = modifiers;
-        PostMouse(record, message, { point.x(), point.y() }, keys);
         return true;
     });
 }

@@ -11,7 +11,6 @@ namespace platform {
 struct DesktopState {
     WidgetMap widgets;
     InputReports reports { widgets };
-    const Window* capture = nullptr; // takes all mouse input
     Qt::KeyboardModifiers modifiers; // held when the latest told input was made
 };
 

@@ -1,6 +1,6 @@
 #include "platform/qt/QtDesktop.h"
 
-#include "platform/DesktopEvents.h"
+#include "platform/ProgramEnd.h"
 #include "platform/User.h"
 #include "platform/qt/CanvasWidget.h"
 #include "platform/qt/ControlWidgets.h"
@@ -157,8 +157,6 @@ void QtDesktop::WindowClosed(Window& window)
     QWidget* widget = parts->state.widgets.WidgetOf(&window);
     parts->state.reports.Forget(window);
     parts->state.widgets.Release(window);
-    if (parts->state.capture == &window)
-        parts->state.capture = nullptr;
     if (!widget)
         return;
     widget->hide();
@@ -179,11 +177,6 @@ void QtDesktop::FocusChanged(Window& window)
     // Window managers lose the keyboard when a box and the dialog under it go at the same moment.
     widget->activateWindow();
     widget->setFocus();
-}
-
-void QtDesktop::CaptureChanged(Window* window)
-{
-    parts->state.capture = window;
 }
 
 SIZE QtDesktop::FrameSize(const Window& window)

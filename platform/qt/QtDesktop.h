@@ -24,7 +24,6 @@ public:
     void WindowClosed(Window& window) override;
     void SurfaceDrawn(Window& window) override;
     void FocusChanged(Window& window) override;
-    void CaptureChanged(Window* window) override;
     // (0, 0) until the window manager has told the frame.
     SIZE FrameSize(const Window& window) override;
     // In device-independent pixels, as all coordinates here.

@@ -1,6 +1,6 @@
 #include "platform/qt/Questions.h"
 
-#include "platform/DesktopEvents.h"
+#include "platform/ModalLoop.h"
 #include "platform/User.h"
 #include "platform/qt/QtText.h"
 

@@ -1,7 +1,7 @@
 #include "tests/platform/qt/QtProgram.h"
 
 #include "platform/CodePage.h"
-#include "platform/DesktopEvents.h"
+#include "platform/ProgramEnd.h"
 #include "platform/Resources.h"
 #include "platform/qt/QtDesktop.h"
 

@@ -1,18 +1,20 @@
+#include "platform/headless/DesignerInput.h"
+
 #include "platform/DesktopEvents.h"
+#include "platform/Kernel.h"
 #include "platform/User.h"
-#include "platform/headless/HeadlessDesktop.h"
 
 #include <string>
 #include <utility>
 
 namespace platform {
 
-void HeadlessDesktop::Queue(std::function<void(Window&)> act, WPARAM keys)
+void DesignerInput::Queue(std::function<void(Window&)> act, WPARAM keys)
 {
     input.push_back({ std::move(act), keys });
 }
 
-void HeadlessDesktop::QueueMouse(UINT message, int x, int y, WPARAM keys)
+void DesignerInput::QueueMouse(UINT message, int x, int y, WPARAM keys)
 {
     const auto act = [this, message, x, y](Window& window) {
         if (message != WM_MOUSEMOVE && message != WM_RBUTTONDOWN)
@@ -24,57 +26,57 @@ void HeadlessDesktop::QueueMouse(UINT message, int x, int y, WPARAM keys)
     Queue(act, keys);
 }
 
-void HeadlessDesktop::Press(int x, int y, WPARAM keys)
+void DesignerInput::Press(int x, int y, WPARAM keys)
 {
     QueueMouse(WM_LBUTTONDOWN, x, y, keys);
 }
 
-void HeadlessDesktop::MoveTo(int x, int y, WPARAM keys)
+void DesignerInput::MoveTo(int x, int y, WPARAM keys)
 {
     QueueMouse(WM_MOUSEMOVE, x, y, keys);
 }
 
-void HeadlessDesktop::Release(int x, int y, WPARAM keys)
+void DesignerInput::Release(int x, int y, WPARAM keys)
 {
     QueueMouse(WM_LBUTTONUP, x, y, keys);
 }
 
-void HeadlessDesktop::Click(int x, int y, WPARAM keys)
+void DesignerInput::Click(int x, int y, WPARAM keys)
 {
     Press(x, y, keys);
     Release(x, y, keys);
 }
 
-void HeadlessDesktop::PressAgain(int x, int y, WPARAM keys)
+void DesignerInput::PressAgain(int x, int y, WPARAM keys)
 {
     QueueMouse(WM_LBUTTONDBLCLK, x, y, keys);
 }
 
-void HeadlessDesktop::DoubleClick(int x, int y, WPARAM keys)
+void DesignerInput::DoubleClick(int x, int y, WPARAM keys)
 {
     Click(x, y, keys);
     PressAgain(x, y, keys);
     Release(x, y, keys);
 }
 
-void HeadlessDesktop::Drag(POINT from, POINT to, WPARAM keys)
+void DesignerInput::Drag(POINT from, POINT to, WPARAM keys)
 {
     Press(from.x, from.y, keys);
     MoveTo(to.x, to.y, keys);
     Release(to.x, to.y, keys);
 }
 
-void HeadlessDesktop::RightPress(int x, int y, WPARAM keys)
+void DesignerInput::RightPress(int x, int y, WPARAM keys)
 {
     QueueMouse(WM_RBUTTONDOWN, x, y, keys);
 }
 
-void HeadlessDesktop::Key(int virtualKey, WPARAM keys)
+void DesignerInput::Key(int virtualKey, WPARAM keys)
 {
     Queue([virtualKey](Window& window) { PostKeyDown(window, virtualKey); }, keys);
 }
 
-void HeadlessDesktop::ClickButton(int id)
+void DesignerInput::ClickButton(int id)
 {
     Queue([this, id](Window& window) {
         Window* button = GetDlgItem(&window, id);
@@ -82,38 +84,43 @@ void HeadlessDesktop::ClickButton(int id)
         if (button && button->visible)
             ButtonClicked(*button);
         else
-            Report("the main window has no button " + std::to_string(id));
+            problems.Report("the main window has no button " + std::to_string(id));
     });
 }
 
-void HeadlessDesktop::CloseBox()
+void DesignerInput::CloseBox()
 {
     Queue([](Window& window) { CloseBoxClicked(window); });
 }
 
-void HeadlessDesktop::MoveWindowTo(int x, int y)
+void DesignerInput::MoveWindowTo(int x, int y)
 {
     Queue([x, y](Window& window) { WindowMoved(window, x, y); });
 }
 
-void HeadlessDesktop::Do(std::function<void()> step)
+void DesignerInput::Do(std::function<void()> step)
 {
     Queue([step = std::move(step)](Window&) { step(); });
 }
 
-void HeadlessDesktop::LetNextInputIn()
+void DesignerInput::LetNextInputIn(Window* mainWindow)
 {
-    idlePumps = 0;
     const Input next = std::move(input.front());
     input.pop_front();
     keysHeld = next.keys;
-    if (MainWindow())
-        next.act(*MainWindow());
+    if (mainWindow)
+        next.act(*mainWindow);
     else
-        Report("input without a main window");
+        problems.Report("input without a main window");
 }
 
-void HeadlessDesktop::PlayInput()
+bool DesignerInput::HoldsKey(int virtualKey) const
+{
+    return (virtualKey == VK_SHIFT && (keysHeld & MK_SHIFT) != 0)
+        || (virtualKey == VK_CONTROL && (keysHeld & MK_CONTROL) != 0);
+}
+
+void DesignerInput::PlayInput()
 {
     while (true) {
         const bool hadInput = HasInput();
