@@ -4,7 +4,8 @@
 #include "platform/Types.h"
 
 // The device interface: drawing into a window's surface or into a bitmap in memory. Coordinates are pixels of the
-// surface; whatever falls outside it is cut. Texts are code page 950.
+// surface; whatever falls outside it is cut. Texts are code page 950. What carries them out is in drawing/, in the
+// files named below.
 
 constexpr UINT DIB_RGB_COLORS = 0;
 constexpr DWORD BI_RGB = 0;

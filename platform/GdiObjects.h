@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <memory>
 
-// The records behind the device interface's handles.
+// The records behind the device interface's handles: programs need to know that each is a GdiObject, and no more.
 namespace platform {
 
 struct GdiObject {
@@ -30,10 +30,5 @@ struct Font final : GdiObject {
     int cellHeight = 16;
     bool narrow = false;
 };
-
-// The system's own objects; every context starts with the bitmap, which is 0 by 0, and the font, which is narrow.
-Bitmap* NoBitmap();
-Brush* WhiteBrush();
-Font* DefaultFont();
 
 } // namespace platform

@@ -28,9 +28,12 @@ DWORD SetFilePointer(HANDLE file, LONG distance, LONG* distanceHigh, DWORD metho
 BOOL ReadFile(HANDLE file, void* buffer, DWORD count, DWORD* read, void* overlapped);
 BOOL CloseHandle(HANDLE file);
 
-// Milliseconds since some moment in the past, wrapping around at 2^32. The installed desktop's clock.
+// The clock and the developer log (process/ClockAndLog.cpp): the installed desktop's, without one the machine's own and
+// stderr.
+
+// Milliseconds since some moment in the past, wrapping around at 2^32.
 DWORD GetTickCount();
 void Sleep(DWORD milliseconds);
 
-// One message for the developer log, in code page 950; the installed desktop decides where it goes.
+// One message for the developer log, in code page 950.
 void OutputDebugStringA(const char* text);

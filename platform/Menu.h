@@ -18,7 +18,4 @@ struct Menu {
     std::vector<std::unique_ptr<Menu>> popups;
 };
 
-// Forgets every loaded menu.
-void ForgetMenus();
-
 } // namespace platform

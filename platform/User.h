@@ -2,7 +2,8 @@
 
 #include "platform/Types.h"
 
-// Windows, messages, menus, dialogs, capture and keys, as far as the editor uses them. Texts are code page 950.
+// Windows, messages, menus, dialogs, capture and keys, as far as the editor uses them. Texts are code page 950. What
+// carries them out is in windows/, in the files named below.
 
 using WNDPROC = LRESULT (*)(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 using DLGPROC = INT_PTR (*)(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
@@ -145,7 +146,7 @@ LRESULT DispatchMessageA(const MSG* message);
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Menus (Menu.cpp). A choice arrives as a posted WM_COMMAND of the owner.
+// Menus (LoadedMenus.cpp). A choice arrives as a posted WM_COMMAND of the owner.
 HMENU LoadMenuA(HINSTANCE instance, const char* name);
 HMENU GetSubMenu(HMENU menu, int position);
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rectangle);

@@ -2,7 +2,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/DesktopEvents.h"
-#include "platform/WindowTable.h"
+#include "platform/windows/WindowTable.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "platform/CodePage.h"
 #include "platform/ProgramEnd.h"
 #include "platform/User.h"
-#include "platform/WindowTable.h"
+#include "platform/windows/WindowTable.h"
 
 #include <cstdlib>
 #include <utility>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/Desktop.h"
-#include "platform/InputState.h"
 #include "platform/Menu.h"
 #include "platform/headless/DesignerInput.h"
 #include "platform/headless/DialogDriver.h"
+#include "platform/windows/InputState.h"
 
 #include <deque>
 #include <functional>

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace platform {
+
+// Forgets every loaded menu.
+void ForgetMenus();
+
+} // namespace platform
