@@ -1,7 +1,7 @@
 #include "tests/fuzz/FuzzTargets.h"
 
 #include "objects/CanvasDrawing.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "script/ScriptParser.h"
 #include "script/ScriptWriter.h"
 #include "shell/ScriptCommands.h"
@@ -57,7 +57,7 @@ void CheckThatItCanBeSaved(ScreenDocument& document)
 
 void FuzzScript(std::string_view bytes)
 {
-    const platform::HeadlessDesktop quiet;
+    const platform::ScriptedDesktop quiet;
     ScriptTokenizer tokens;
     ParsedScreen screen;
     if (tokens.TokenizeText(std::string(bytes)))
@@ -78,7 +78,7 @@ void FuzzRender(std::string_view bytes)
 {
     const TemporaryFolder folder;
     folder.Write("screen.tobrik", std::string(bytes));
-    platform::HeadlessDesktop desktop;
+    platform::ScriptedDesktop desktop;
     ShellContext shell;
     std::filesystem::current_path(FUZZ_WORKSPACE);
     LoadScreenScript(folder.Path() + "/screen.tobrik");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "objects/PictureObject.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/VecPrinting.h"
@@ -44,7 +44,7 @@ protected:
     ptrdiff_t Count(uint16_t color) const { return std::count(canvas.begin(), canvas.end(), color); }
     ptrdiff_t Drawn() const { return std::ssize(canvas) - Count(untouched); }
 
-    platform::HeadlessDesktop desktop;
+    platform::ScriptedDesktop desktop;
     TemporaryFolder folder;
     std::vector<uint16_t> canvas = std::vector<uint16_t>(size_t { ScreenWidth } * ScreenHeight, untouched);
 };

@@ -1,4 +1,4 @@
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "script/ScreenBuilder.h"
 #include "script/ScriptParser.h"
 #include "tests/support/BmpFile.h"
@@ -31,7 +31,7 @@ protected:
         return Build(R"(Picture { Stage 0 { Filename = "bad.bmp"; } })");
     }
 
-    const platform::HeadlessDesktop desktop;
+    const platform::ScriptedDesktop desktop;
     const TemporaryFolder folder;
     const BmpFile good { 40, 20, 255 };
     ScreenDocument document;

@@ -1,5 +1,5 @@
 #include "platform/CodePage.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "script/ScreenBuilder.h"
 #include "script/ScriptParser.h"
 #include "script/ScriptWriter.h"
@@ -124,7 +124,7 @@ class ScriptWriting : public testing::TestWithParam<std::string> { };
 
 TEST_P(ScriptReading, GivesTheExpectedObjectsAndMessages)
 {
-    platform::HeadlessDesktop desktop;
+    platform::ScriptedDesktop desktop;
     ScriptTokenizer tokens;
     ParsedScreen screen;
     const bool complete = ScriptParser::Parse(tokens, CasePath(GetParam() + ".tobrik"), screen);

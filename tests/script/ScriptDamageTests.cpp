@@ -1,4 +1,4 @@
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "script/ScriptParser.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -14,7 +14,7 @@ std::string Example()
 
 bool Parses(const std::string& script)
 {
-    const platform::HeadlessDesktop quiet;
+    const platform::ScriptedDesktop quiet;
     ScriptTokenizer tokens;
     ParsedScreen screen;
     return tokens.TokenizeText(script) && ScriptParser::ParseTokens(tokens, screen);

@@ -1,4 +1,4 @@
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "script/ScriptTokenizer.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -25,7 +25,7 @@ TEST(ScriptTokenizer, ReadsFilesOfAnyLengthButNothingElse)
 
 TEST(ScriptTokenizer, KeepsTheTokensBeforeAFailureAndTheirPlacesInTheFile)
 {
-    const platform::HeadlessDesktop quiet;
+    const platform::ScriptedDesktop quiet;
     ScriptTokenizer tokens;
     ASSERT_FALSE(tokens.TokenizeText("\r\nStage // a\r\r\n\r\n\"b\r\nc\"\n(\r\nab 5"));
     for (const auto& [text, offset] : { std::pair("Stage", 2U), { "\"b\nc\"", 17U }, { "(", 24U } }) {

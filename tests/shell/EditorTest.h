@@ -1,7 +1,7 @@
 #pragma once
 
 #include "objects/PictureObject.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 #include "shell/ShellContext.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-// The editor on a headless desktop, in a folder of its own with a dark background and the pictures of the built-in
+// The editor on a scripted desktop, in a folder of its own with a dark background and the pictures of the built-in
 // controls, and a designer's words for looking at it.
 class EditorTest : public testing::Test {
 protected:
@@ -48,7 +48,7 @@ protected:
     std::string LatestMessage() const;
 
     TemporaryFolder folder;
-    platform::HeadlessDesktop desktop;
+    platform::ScriptedDesktop desktop;
     ShellContext shell;
 };
 

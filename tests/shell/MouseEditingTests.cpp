@@ -7,7 +7,7 @@
 
 namespace {
 
-using platform::HeadlessDesktop;
+using platform::ScriptedDesktop;
 using Indexes = std::vector<int32_t>;
 
 // Three pictures of 40 by 30: two in a row, the third over empty canvas further down.
@@ -42,10 +42,10 @@ protected:
         std::string act;
         for (vec at; steps >> act >> at.x >> at.y;) {
             const WPARAM keys = act.starts_with("shift-") ? MK_SHIFT : 0;
-            const auto played = act.ends_with("press") ? &HeadlessDesktop::Press
-                : act.ends_with("again")               ? &HeadlessDesktop::PressAgain
-                : act.ends_with("move")                ? &HeadlessDesktop::MoveTo
-                                                       : &HeadlessDesktop::Release;
+            const auto played = act.ends_with("press") ? &ScriptedDesktop::Press
+                : act.ends_with("again")               ? &ScriptedDesktop::PressAgain
+                : act.ends_with("move")                ? &ScriptedDesktop::MoveTo
+                                                       : &ScriptedDesktop::Release;
             (desktop.*played)(at.x, at.y, keys);
             desktop.PlayInput();
             std::string state;

@@ -233,11 +233,11 @@ TEST_F(Dialogs, ThatNobodyCanMakeOrAnswerAreNotSilent)
     });
 }
 
-TEST(HeadlessDesktopDeathTest, DoesNotLetAForgottenAnswerPass)
+TEST(ScriptedDesktopDeathTest, DoesNotLetAForgottenAnswerPass)
 {
     EXPECT_DEATH(
         {
-            platform::HeadlessDesktop desktop;
+            platform::ScriptedDesktop desktop;
             desktop.OnDialog([](DialogDriver&) {});
         },
         "a dialog that was expected never opened");

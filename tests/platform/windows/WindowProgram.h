@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/User.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 using Log = std::vector<std::string>;
 
-// A small window program on a headless desktop; it notes what reaches its window and its dialogs.
+// A small window program on a scripted desktop; it notes what reaches its window and its dialogs.
 class WindowProgram : public testing::Test {
 protected:
     WindowProgram();
@@ -28,7 +28,7 @@ protected:
     static LRESULT WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static INT_PTR DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
-    platform::HeadlessDesktop desktop;
+    platform::ScriptedDesktop desktop;
     std::function<LRESULT(HWND, UINT)> onWindowMessage; // a non-zero answer replaces the default handling
     std::function<void(HWND, UINT, WPARAM)> onDialogMessage;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Window.h"
-#include "platform/headless/Problems.h"
+#include "platform/scripted/Problems.h"
 
 #include <deque>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "platform/headless/DialogDriver.h"
+#include "platform/scripted/DialogDriver.h"
 
 #include "platform/CodePage.h"
 #include "platform/DesktopEvents.h"

@@ -1,4 +1,4 @@
-#include "platform/headless/Problems.h"
+#include "platform/scripted/Problems.h"
 
 #include <cstdio>
 #include <utility>
@@ -7,7 +7,7 @@ namespace platform {
 
 void Problems::Report(std::string problem)
 {
-    std::fprintf(stderr, "HeadlessDesktop: %s\n", problem.c_str());
+    std::fprintf(stderr, "ScriptedDesktop: %s\n", problem.c_str());
     problems.push_back(std::move(problem));
 }
 

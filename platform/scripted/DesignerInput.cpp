@@ -1,4 +1,4 @@
-#include "platform/headless/DesignerInput.h"
+#include "platform/scripted/DesignerInput.h"
 
 #include "platform/DesktopEvents.h"
 #include "platform/Kernel.h"

@@ -2,8 +2,8 @@
 
 #include "platform/Desktop.h"
 #include "platform/Menu.h"
-#include "platform/headless/DesignerInput.h"
-#include "platform/headless/DialogDriver.h"
+#include "platform/scripted/DesignerInput.h"
+#include "platform/scripted/DialogDriver.h"
 #include "platform/windows/InputState.h"
 
 #include <deque>
@@ -41,10 +41,10 @@ struct DebugMessage {
 // missing button) is a problem: the question is cancelled (a dialog ends with 0), the problem is written to stderr, and
 // the process is aborted when the desktop goes, unless the test has taken it with TakeProblems. Answers that were never
 // asked for are problems too.
-class HeadlessDesktop final : public Desktop, public DesignerInput {
+class ScriptedDesktop final : public Desktop, public DesignerInput {
 public:
-    HeadlessDesktop();
-    ~HeadlessDesktop() override;
+    ScriptedDesktop();
+    ~ScriptedDesktop() override;
 
     // What the program finds; before the window in question is made.
     void SetFrameSize(SIZE size) { frameSize = size; } // 6 by 32

@@ -1,4 +1,4 @@
-#include "platform/headless/HeadlessDesktop.h"
+#include "platform/scripted/ScriptedDesktop.h"
 
 #include "platform/CodePage.h"
 #include "platform/ProgramEnd.h"
@@ -26,12 +26,12 @@ template <class Answer> std::optional<Answer> TakeFirst(std::deque<Answer>& answ
 
 } // namespace
 
-HeadlessDesktop::HeadlessDesktop()
+ScriptedDesktop::ScriptedDesktop()
 {
     InstallDesktop(this);
 }
 
-HeadlessDesktop::~HeadlessDesktop()
+ScriptedDesktop::~ScriptedDesktop()
 {
     for (size_t left = dialogScripts.size(); left > 0; --left)
         problems.Report("a dialog that was expected never opened");
@@ -45,56 +45,56 @@ HeadlessDesktop::~HeadlessDesktop()
     InstallDesktop(nullptr);
 }
 
-void HeadlessDesktop::OnDialog(DialogScript script)
+void ScriptedDesktop::OnDialog(DialogScript script)
 {
     dialogScripts.push_back(std::move(script));
 }
 
-void HeadlessDesktop::AnswerMenu(uint32_t id, std::optional<POINT> pointerAfter)
+void ScriptedDesktop::AnswerMenu(uint32_t id, std::optional<POINT> pointerAfter)
 {
     menuAnswers.push_back({ id, pointerAfter });
 }
 
-void HeadlessDesktop::AnswerFileDialog(std::string nativePath)
+void ScriptedDesktop::AnswerFileDialog(std::string nativePath)
 {
     fileAnswers.push_back(std::move(nativePath));
 }
 
-void HeadlessDesktop::CancelFileDialog()
+void ScriptedDesktop::CancelFileDialog()
 {
     fileAnswers.push_back(std::nullopt);
 }
 
-Window* HeadlessDesktop::MainWindow() const
+Window* ScriptedDesktop::MainWindow() const
 {
     return topLevelWindows.empty() ? nullptr : topLevelWindows.front();
 }
 
-Window* HeadlessDesktop::Focus() const
+Window* ScriptedDesktop::Focus() const
 {
     return IsWindow(focus) ? focus : nullptr;
 }
 
-const Surface& HeadlessDesktop::Screen() const
+const Surface& ScriptedDesktop::Screen() const
 {
     static const Surface none;
     const Window* window = MainWindow();
     return window ? window->surface : none;
 }
 
-uint32_t HeadlessDesktop::Pixel(int x, int y) const
+uint32_t ScriptedDesktop::Pixel(int x, int y) const
 {
     const Surface& screen = Screen();
     const bool inside = x >= 0 && y >= 0 && x < screen.width && y < screen.height;
     return inside ? screen.At(x, y) : 0;
 }
 
-void HeadlessDesktop::DebugOutput(std::string_view text)
+void ScriptedDesktop::DebugOutput(std::string_view text)
 {
     debugMessages.push_back({ Utf8FromCodePage(text), std::string(text) });
 }
 
-void HeadlessDesktop::WindowOpened(Window& window)
+void ScriptedDesktop::WindowOpened(Window& window)
 {
     if (window.kind != WindowKind::Dialog) {
         topLevelWindows.push_back(&window);
@@ -104,18 +104,18 @@ void HeadlessDesktop::WindowOpened(Window& window)
     openDialogs.push_back({ &window, TakeFirst(dialogScripts).value_or(nullptr) });
 }
 
-void HeadlessDesktop::WindowClosed(Window& window)
+void ScriptedDesktop::WindowClosed(Window& window)
 {
     std::erase(topLevelWindows, &window);
     std::erase_if(openDialogs, [&](const OpenDialog& dialog) { return dialog.window == &window; });
 }
 
-std::optional<POINT> HeadlessDesktop::PointerIn(const Window& window)
+std::optional<POINT> ScriptedDesktop::PointerIn(const Window& window)
 {
     return &window == MainWindow() ? FreePointer() : std::nullopt;
 }
 
-bool HeadlessDesktop::Pump(bool)
+bool ScriptedDesktop::Pump(bool)
 {
     if (openDialogs.empty() && !HasInput()) {
         CountIdlePump();
@@ -130,7 +130,7 @@ bool HeadlessDesktop::Pump(bool)
     return true;
 }
 
-void HeadlessDesktop::WorkDialog()
+void ScriptedDesktop::WorkDialog()
 {
     Window* dialog = openDialogs.back().window;
     if (const DialogScript script = std::exchange(openDialogs.back().script, nullptr)) {
@@ -143,7 +143,7 @@ void HeadlessDesktop::WorkDialog()
 }
 
 // Nobody will press anything any more: a main loop is told to end, so that the test does not run for ever.
-void HeadlessDesktop::CountIdlePump()
+void ScriptedDesktop::CountIdlePump()
 {
     if (++idlePumps != maxIdlePumps)
         return;
@@ -151,13 +151,13 @@ void HeadlessDesktop::CountIdlePump()
     PostQuitMessage(-1);
 }
 
-int HeadlessDesktop::ShowMessageBox(Window* owner, std::string_view text, std::string_view caption)
+int ScriptedDesktop::ShowMessageBox(Window* owner, std::string_view text, std::string_view caption)
 {
     messageBoxes.push_back({ Utf8FromCodePage(text), Utf8FromCodePage(caption), owner });
     return IDOK;
 }
 
-uint32_t HeadlessDesktop::ShowMenu(Window&, const Menu& menu, POINT at)
+uint32_t ScriptedDesktop::ShowMenu(Window&, const Menu& menu, POINT at)
 {
     menus.push_back({ menu.items, at });
     const auto answer = TakeFirst(menuAnswers);
@@ -175,7 +175,7 @@ uint32_t HeadlessDesktop::ShowMenu(Window&, const Menu& menu, POINT at)
     return 0;
 }
 
-std::optional<std::string> HeadlessDesktop::ChooseFile(const FileRequest& request)
+std::optional<std::string> ScriptedDesktop::ChooseFile(const FileRequest& request)
 {
     fileDialogs.push_back(request);
     const auto answer = TakeFirst(fileAnswers);
