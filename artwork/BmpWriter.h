@@ -16,7 +16,8 @@ struct IndexedPicture {
     std::vector<uint8_t> indices;
 };
 
-// Writes an uncompressed 8-bit BMP with a 40-byte header, 256 palette entries and the bottom row first.
+// Writes an uncompressed 8-bit BMP with a 40-byte header, 256 palette entries and the bottom row first. Replaces the
+// file only when all of it is written; false when it cannot be.
 [[nodiscard]] bool WriteBmp(const QString& path, const IndexedPicture& picture);
 
 } // namespace artwork

@@ -1,5 +1,6 @@
+#include "artwork/Buttons.h"
+
 #include "artwork/Painting.h"
-#include "artwork/Pictures.h"
 
 // Two buttons with soft shadows: a pill of teal enamel and a plaque of red lacquer.
 namespace artwork {

@@ -1,5 +1,6 @@
+#include "artwork/Controls.h"
+
 #include "artwork/Painting.h"
-#include "artwork/Pictures.h"
 
 #include <array>
 

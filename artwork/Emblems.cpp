@@ -1,5 +1,6 @@
+#include "artwork/Emblems.h"
+
 #include "artwork/Painting.h"
-#include "artwork/Pictures.h"
 
 #include <array>
 #include <cmath>

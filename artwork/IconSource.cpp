@@ -1,6 +1,6 @@
 #include "artwork/IconSource.h"
+
 #include "artwork/Painting.h"
-#include "artwork/Pictures.h"
 
 #include <QSaveFile>
 

@@ -1,5 +1,6 @@
+#include "artwork/Logo.h"
+
 #include "artwork/Painting.h"
-#include "artwork/Pictures.h"
 
 namespace artwork {
 

@@ -22,12 +22,16 @@ inline constexpr QColor brass(216, 168, 76);
 inline constexpr QColor darkBrass(116, 74, 24);
 inline constexpr QColor outline(44, 26, 12);
 
+// A picture with nothing on it, premultiplied, as every picture is painted; sizes are pixels.
 QImage Transparent(int width, int height);
 // Sections of one size in a row or a column; `paint` gets a smooth painter of one section and the section's number.
 QImage Strip(QSize section, int count, bool stacked, const std::function<void(QPainter&, int)>& paint);
+// All of `from` at a share of 0, all of `to` at 1.
 QColor Mix(const QColor& from, const QColor& to, double share);
+// Alpha 0 to 255.
 QColor WithAlpha(QColor colour, int alpha);
 
+// From the top of the area to its bottom; the colours are spaced evenly, at least two.
 QLinearGradient Downward(const QRectF& area, std::initializer_list<QColor> evenly);
 QLinearGradient Brass(const QRectF& area);
 

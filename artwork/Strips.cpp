@@ -1,5 +1,6 @@
+#include "artwork/Strips.h"
+
 #include "artwork/Painting.h"
-#include "artwork/Pictures.h"
 
 #include <algorithm>
 #include <array>

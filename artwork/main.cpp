@@ -1,6 +1,11 @@
+#include "artwork/Background.h"
+#include "artwork/Buttons.h"
+#include "artwork/Controls.h"
+#include "artwork/Emblems.h"
 #include "artwork/IconSource.h"
-#include "artwork/Pictures.h"
+#include "artwork/Logo.h"
 #include "artwork/Quantiser.h"
+#include "artwork/Strips.h"
 
 #include <QDir>
 #include <QGuiApplication>

@@ -1,4 +1,5 @@
-#include "gfx/DrawTask.h"
+#include "gfx/DrawRows.h"
+
 #include "gfx/Pic16.h"
 #include "gfx/Pic16Key.h"
 #include "gfx/RowOps.h"

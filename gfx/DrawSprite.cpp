@@ -1,4 +1,5 @@
-#include "gfx/DrawTask.h"
+#include "gfx/DrawSprite.h"
+
 #include "gfx/RowOps.h"
 #include "gfx/RunCursor.h"
 

@@ -26,8 +26,3 @@ struct SDrawTask_ {
         return picture.Pixels_() + (ptrdiff_t { firstRow } + row) * picture.width + firstColumn;
     }
 };
-
-// The drawing of the three kinds. The rectangles are trusted.
-void DrawPlain_(const SPic16X_* picture, const SDrawTask_& task);
-void DrawKeyed_(const SPic16X_* picture, const SDrawTask_& task);
-void DrawSprite_(const SPic16X_* picture, const SDrawTask_& task);

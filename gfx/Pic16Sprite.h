@@ -29,8 +29,9 @@ struct SPic16Sprite_ : SPic16X_ {
     // Room for a finished stream of that length; only the kind is set.
     static SPic16Sprite_* NewSized_(uint32_t streamBytes);
 
-    // Writes the stream of the two planes of width * height bytes (palette indices; alpha 0 to 255). Makes alpha runs
-    // with levels 1 to 30 and no trans runs. Returns its length, 0 for a null buffer or index plane and without pixels.
+    // In gfx/SpriteEncoding.cpp. Writes the stream of the two planes of width * height bytes (palette indices; alpha 0
+    // to 255). Makes alpha runs with levels 1 to 30 and no trans runs. Returns its length, 0 for a null buffer or index
+    // plane and without pixels.
     static uint32_t Encode_(
         uint8_t* stream, const uint8_t* indices, uint16_t width, uint16_t height, const uint8_t* alphas);
 

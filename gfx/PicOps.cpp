@@ -1,6 +1,8 @@
 #include "gfx/PicOps.h"
 
 #include "gfx/ColorFormats.h"
+#include "gfx/DrawRows.h"
+#include "gfx/DrawSprite.h"
 #include "gfx/Pic16.h"
 #include "gfx/Pic16Key.h"
 #include "gfx/Pic16Sprite.h"
