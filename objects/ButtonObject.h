@@ -11,7 +11,7 @@ public:
 
     // As a picture, then cuts it: side by side when the file name has a "@", stacked when it has a "!", else along the
     // longer side (stacked when square).
-    bool Load() override;
+    [[nodiscard]] bool Load() override;
     bool Draw(uint16_t* dest, int32_t pitch) override;
     // The mouse's part in the looks. True while the pointer is on the button; for a release, when it completes a click.
     bool HandleMessage(ObjectMessage msg, uint32_t wParam, uint32_t lParam) override;

@@ -13,7 +13,7 @@ bool CheckBoxObject::Build()
     if (labelText.empty())
         return false;
     *label = std::make_unique<WordObject>();
-    (*label)->SetText(labelText);
+    static_cast<void>((*label)->SetText(labelText)); // refuses nothing but an empty text
     labelSize = (*label)->GetSize();
     labelOffset = { boxSize.x + gap, 0 };
     size = { boxSize.x + labelSize.x + gap, boxSize.y };
@@ -45,7 +45,7 @@ bool CheckBoxObject::HandleMessage(ObjectMessage msg, uint32_t, uint32_t lParam)
         return false;
     (*box)->SetPos(pos);
     (*box)->SetView(boxSize);
-    // Not the screen's size, so that a box as large as the screen could be ticked all the same.
+    // No screen is that large: a box is never taken for a backdrop, which could not be ticked.
     if ((*box)->HitTest(MessagePoint(lParam), { 1000, 1000 }))
         state = state == stateChecked ? stateUnchecked : stateChecked;
     return false;

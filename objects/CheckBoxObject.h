@@ -18,7 +18,7 @@ public:
     // Makes the box from its file and the label from its text and lays them out; to be called again when the text
     // changes. False for an empty text: there is no label then, and without one nothing is drawn or hit. A missing box
     // picture is no failure.
-    bool Build();
+    [[nodiscard]] bool Build();
     // Code page 950; takes effect with the next Build.
     void SetLabelText(const std::string& text) { labelText = text; }
     const std::string& GetLabelText() const { return labelText; }
@@ -27,7 +27,7 @@ public:
     // A left press on the box toggles it. Always false.
     bool HandleMessage(ObjectMessage msg, uint32_t wParam, uint32_t lParam) override;
     bool HitTest(vec point, vec screen) override;
-    bool PixelHit(vec point) override;
+    bool PixelHit(vec point) override; // always false
     void Reset() override;
 
     bool IsEnabled() const { return state != stateDisabled; }

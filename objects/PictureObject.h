@@ -24,7 +24,7 @@ public:
     // Loads the picture, with its alpha companion ("a" before ".bmp") where there is one, else with pure green as
     // transparent, and builds the hit mask. `size` and `view` become the picture's; `pos` and `src` stay. False leaves
     // the object without a picture, except that a name without ".bmp" changes nothing at all.
-    virtual bool Load();
+    [[nodiscard]] virtual bool Load();
 
     bool Draw(uint16_t* dest, int32_t pitch) override;
     bool HandleMessage(ObjectMessage msg, uint32_t wParam, uint32_t lParam) override;
@@ -37,7 +37,8 @@ public:
     // The alpha file that belongs to a picture: "a" before the first ".bmp". Empty for a name without ".bmp".
     static std::string CompanionOf(const std::string& fileName);
 
-    // Null while nothing is loaded.
+    // Null while nothing is loaded; the object keeps owning both, until it is loaded anew or reset. The mask is as
+    // SPic16X_::MakeMask_ fills it. Sizes are in bytes, and those of the last picture that there was.
     const SPic16X_* GetPicture() const { return loaded->picture.get(); }
     const uint8_t* GetMask() const { return loaded->mask.get(); }
     uint32_t GetPictureBytes() const { return loaded->pictureBytes; }

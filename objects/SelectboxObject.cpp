@@ -125,15 +125,17 @@ void SelectboxObject::RepeatHeldStep()
     current += scroll;
 }
 
-// A held button stops at the ends of the list, single steps go round. Without choices that leaves 0 or -1.
+// Without choices that leaves 0 or -1.
 void SelectboxObject::KeepCurrentInRange()
 {
     const int32_t last = GetCount() - 1;
     if (current >= 0 && current <= last)
         return;
-    const bool before = current < 0;
-    const bool held = scroll != 0;
-    current = before == held ? 0 : last;
+    const bool isBeforeFirst = current < 0;
+    if (scroll != 0) // A held button stops at the end that it has passed,
+        current = isBeforeFirst ? 0 : last;
+    else // a single step goes round to the other one.
+        current = isBeforeFirst ? last : 0;
 }
 
 // The word of the choice that is shown; null where there is no text.
@@ -144,7 +146,7 @@ WordObject* SelectboxObject::RenderCurrent()
         return nullptr;
     if (!*shownWord || (*shownWord)->GetText() != text) {
         *shownWord = std::make_unique<WordObject>();
-        (*shownWord)->SetText(text);
+        static_cast<void>((*shownWord)->SetText(text)); // refuses nothing but an empty text
     }
     return shownWord->get();
 }

@@ -27,7 +27,7 @@ public:
 
     // Makes the edit box and the buttons from their files, the built-in ones where none was given, and lays them out.
     // Always true: a part whose picture is missing is not drawn and not hit.
-    bool Build();
+    [[nodiscard]] bool Build();
 
     // Appends a choice. Always true.
     bool AddString(const std::string& text);
@@ -43,7 +43,7 @@ public:
     // True for a left press on one of the buttons, which also steps.
     bool HandleMessage(ObjectMessage msg, uint32_t wParam, uint32_t lParam) override;
     bool HitTest(vec point, vec screen) override;
-    bool PixelHit(vec point) override;
+    bool PixelHit(vec point) override; // always false
     void Reset() override;
 
     // Index of the choice shown; brought into range by drawing, so it may be outside between two frames.

@@ -27,7 +27,7 @@ public:
     // Stores the text (code page 950) and renders it; `size` and `view` become those of the text, `pos` stays. False
     // for an empty text, which leaves the word without a picture. True although the text could not be rendered: such a
     // word has size (0, 0) and no picture.
-    bool SetText(const std::string& newText);
+    [[nodiscard]] bool SetText(const std::string& newText);
     // Stores the text and renders nothing; for descriptions that are copied and rendered later.
     void StoreText(const std::string& newText) { text = newText; }
     const std::string& GetText() const { return text; }
@@ -36,6 +36,7 @@ public:
     // 555 colours of the letters and of the background, which is transparent.
     uint16_t GetTextColor() const { return textColor; }
     uint16_t GetKeyColor() const { return keyColor; }
+    // The word keeps owning it.
     platform::Font* GetFont() const { return font->Get(); }
 
     bool HitTest(vec point, vec screen) override;

@@ -19,7 +19,7 @@ SLoadFailure_ BuildResources(CheckBoxObject& checkBox)
 SLoadFailure_ BuildResources(SelectboxObject& selectbox)
 {
     // A part whose picture is missing is no failure.
-    selectbox.Build();
+    static_cast<void>(selectbox.Build());
     return {};
 }
 

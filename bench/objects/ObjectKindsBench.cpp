@@ -79,15 +79,15 @@ void AddEveryKind(ScreenDocument& document)
     animation->Play();
     document.AddAnimation(std::move(animation));
     auto word = std::make_unique<WordObject>();
-    word->SetText(TwentyCharacters());
+    static_cast<void>(word->SetText(TwentyCharacters()));
     document.AddWord(std::move(word));
     auto checkBox = std::make_unique<CheckBoxObject>();
     checkBox->SetLabelText(TwentyCharacters());
-    checkBox->Build();
+    static_cast<void>(checkBox->Build());
     document.AddCheckBox(std::move(checkBox));
     auto selectbox = std::make_unique<SelectboxObject>();
     selectbox->AddString(u8"第一個選項"_big5);
-    selectbox->Build();
+    static_cast<void>(selectbox->Build());
     document.AddSelectbox(std::move(selectbox));
 }
 

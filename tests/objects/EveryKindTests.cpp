@@ -20,20 +20,20 @@ protected:
         dynamic_cast<AnimationObject&>(At(2)).Play();
         document.AddWord(std::make_unique<WordObject>());
         dynamic_cast<WordObject&>(At(3)).SetColor(99, 0, 0);
-        dynamic_cast<WordObject&>(At(3)).SetText("word");
+        EXPECT_TRUE(dynamic_cast<WordObject&>(At(3)).SetText("word"));
         document.AddCheckBox(std::make_unique<CheckBoxObject>());
         dynamic_cast<CheckBoxObject&>(At(4)).SetLabelText("label");
-        dynamic_cast<CheckBoxObject&>(At(4)).Build();
+        EXPECT_TRUE(dynamic_cast<CheckBoxObject&>(At(4)).Build());
         document.AddSelectbox(std::make_unique<SelectboxObject>());
         dynamic_cast<SelectboxObject&>(At(5)).AddString("choice");
-        dynamic_cast<SelectboxObject&>(At(5)).Build();
+        EXPECT_TRUE(dynamic_cast<SelectboxObject&>(At(5)).Build());
     }
     ScreenObject& At(size_t index) { return *document.GetObjects()[index]; }
 
     ScreenDocument document;
 };
 
-TEST_F(EveryKind, HasItsCodeLayerAndBoundaryDrawsOnACanvasOnlyAndAnswersTheMouseInItsWayAndIsAsNewAfterAReset)
+TEST_F(EveryKind, BehavesAsItsKindDoesUntilAResetMakesItNew)
 {
     const struct {
         ObjectKind kind;
