@@ -87,7 +87,7 @@ TEST_F(BmpLoading, MakesTheHighestKeyedIndexTransparent)
     EXPECT_EQ(Sprite().keyIndex, 0);
 }
 
-TEST_F(BmpLoading, TakesSizesUpTo65535AndBlocksUpTo32Bits)
+TEST_F(BmpLoading, TakesSidesUpTo65535InBlocksUpTo32Bits)
 {
     std::string bytes = BmpFile(1, 1).Bytes();
     for (const auto& [width, height, streamBytes] :

@@ -33,7 +33,7 @@ TEST(FileReader, ReadsWholeCountsOfOneFileAtATime)
     EXPECT_EQ(file.Size_(), 0u);
 }
 
-TEST(BmpReading, GivesRowsFromTheTopAndColorsInBothFormats)
+TEST(BmpReading, GivesWhatAFileOfEitherDepthHolds)
 {
     const TemporaryFolder folder;
     BmpFile bmp(9, 2); // nine bytes and three of padding in a row: pixels of 8 bits, or three of 24

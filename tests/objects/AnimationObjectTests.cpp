@@ -8,11 +8,12 @@
 class AnimationObjectTest : public ObjectTest {
 protected:
     int32_t FrameAfter(uint32_t milliseconds) { return Draw(animation, milliseconds), animation.GetFrame(); }
+    std::pair<int32_t, uint32_t> FrameAndAlphaAfter(uint32_t ms) { return { FrameAfter(ms), animation.GetAlpha() }; }
 
     AnimationObject animation;
 };
 
-TEST_F(AnimationObjectTest, SkipsNoFrameKeepsItsTimeOverAPauseAndStopsOnTheFirst)
+TEST_F(AnimationObjectTest, PlaysFrameByFrameThroughAPauseBackToTheFirst)
 {
     desktop.SetClock(0xFFFFFFF0); // the clock wraps around during the first frame
     animation.SetSections(3);
@@ -21,17 +22,18 @@ TEST_F(AnimationObjectTest, SkipsNoFrameKeepsItsTimeOverAPauseAndStopsOnTheFirst
     EXPECT_EQ(FrameAfter(31), 1);
     animation.SetAlpha(0);
     animation.Pause();
-    EXPECT_TRUE(FrameAfter(1000) == 1 && animation.GetAlpha() == 255);
+    EXPECT_EQ(FrameAndAlphaAfter(1000), std::pair(1, 255U));
     animation.Play();
     EXPECT_EQ(FrameAfter(19), 1);
     EXPECT_EQ(FrameAfter(1), 2);
     animation.SetSections(2);
     EXPECT_EQ(animation.GetFrame(), 1);
     animation.SetAlpha(0);
-    EXPECT_TRUE(FrameAfter(99) == 0 && animation.GetAlpha() == 255);
+    EXPECT_EQ(FrameAndAlphaAfter(99), std::pair(0, 255U));
     animation.SetSections(0);
     animation.Play();
-    EXPECT_TRUE(FrameAfter(49) == 0 && animation.IsPlaying()); // a play-through starts afresh
+    EXPECT_EQ(FrameAfter(49), 0);
+    EXPECT_TRUE(animation.IsPlaying()); // a play-through starts afresh
 }
 
 TEST_F(AnimationObjectTest, TakesAnyNumberAsTimePerFrame)
@@ -49,7 +51,7 @@ TEST_F(AnimationObjectTest, TakesAnyNumberAsTimePerFrame)
     }
 }
 
-TEST_F(AnimationObjectTest, IsHitAndOutlinedWhereItsWholeFrameIsDrawn)
+TEST_F(AnimationObjectTest, IsHitWhereItsWholeFrameIsDrawn)
 {
     const vec wide { 400, 50 };
     const vec stacked { 50, 400 };

@@ -3,10 +3,7 @@
 
 #include <tuple>
 
-class ButtonObjectTest : public ObjectTest {
-protected:
-    ButtonObject button;
-};
+using ButtonObjectTest = ObjectTest;
 
 TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
 {
@@ -26,9 +23,10 @@ TEST_F(ButtonObjectTest, IsCutByTheMarkInItsNameElseAlongItsLongerSide)
     }
 }
 
-TEST_F(ButtonObjectTest, FollowsTheMouseAndShowsItsLastSectionForAMissingLook)
+TEST_F(ButtonObjectTest, FollowsTheMouseThroughTheLooksThatItHas)
 {
     WriteStrip("button.bmp", { 10, 20 }, 2);
+    ButtonObject button;
     button.SetSections(2);
     ASSERT_TRUE(Load(button, "button.bmp"));
     button.SetView({ 10, 5 }); // the cut of a fitting is hit all the same
@@ -54,7 +52,7 @@ TEST_F(ButtonObjectTest, ShowsWhatTheFittingLeavesOfASectionWithItsAlpha)
 {
     for (const auto& [name, size] : { std::pair("wide.bmp", vec(12, 3)), { "stacked.bmp", vec(3, 12) } }) {
         WriteStrip(name, size, 12);
-        button.Reset();
+        ButtonObject button;
         button.SetSections(3);
         ASSERT_TRUE(Load(button, name));
         button.SetSrc({ 2, 2 });

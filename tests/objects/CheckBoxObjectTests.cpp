@@ -46,7 +46,7 @@ TEST_F(CheckBoxObjectTest, TogglesByALeftPressOnItsBoxAlone)
     ExpectLook(0);
 }
 
-TEST_F(CheckBoxObjectTest, IsHitOnBoxGapAndLabelAndUnderTheBoxWhereTheLabelIsHigher)
+TEST_F(CheckBoxObjectTest, IsHitWhereItsPartsOrTheGapBetweenThemLie)
 {
     Build({ 8, 32 });
     const int32_t width = 13 + checkBox.GetLabelSize().x;
@@ -56,7 +56,7 @@ TEST_F(CheckBoxObjectTest, IsHitOnBoxGapAndLabelAndUnderTheBoxWhereTheLabelIsHig
         EXPECT_EQ(checkBox.HitTest(vec(100, 50) + point, {}), hit) << point;
 }
 
-TEST_F(CheckBoxObjectTest, LivesWithoutItsBoxPictureAndVanishesWithItsLabel)
+TEST_F(CheckBoxObjectTest, NeedsItsLabelButNotItsBoxPicture)
 {
     checkBox.SetLabelText("label");
     EXPECT_TRUE(checkBox.Build());

@@ -47,7 +47,7 @@ TEST_F(PictureObjectTest, TakesPureGreenAsTransparentUnlessThereIsACompanion)
     }
 }
 
-TEST_F(PictureObjectTest, KeepsItsPlaceWhenLoadedAgainAndIsNeitherDrawnNorHitAfterAFailedLoad)
+TEST_F(PictureObjectTest, KeepsItsPlaceAloneAfterAFailedLoad)
 {
     ASSERT_TRUE(Load(picture, "logo.bmp"));
     picture.SetPos({ 5, 6 });
@@ -60,7 +60,7 @@ TEST_F(PictureObjectTest, KeepsItsPlaceWhenLoadedAgainAndIsNeitherDrawnNorHitAft
     EXPECT_FALSE(picture.PixelHit({ 5, 6 }));
 }
 
-TEST_F(PictureObjectTest, IsHitInItsViewWithOneMorePixelAndByPixelWithin)
+TEST_F(PictureObjectTest, IsHitOnePixelBeyondItsViewButByPixelOnlyWithin)
 {
     ASSERT_TRUE(Load(picture, "logo.bmp"));
     picture.SetPos({ -5, 3 });

@@ -49,17 +49,19 @@ protected:
     ScreenDocument document;
 };
 
-TEST_F(ScreenDocumentTest, MovesObjectsThroughTheLayersAndClosesTheGapOfARemovedOne)
+TEST_F(ScreenDocumentTest, KeepsTheLayersWithoutGapsWhenObjectsMoveOrGo)
 {
     for (int32_t i = 0; i < 4; ++i)
         Add({ i, 0 });
-    EXPECT_TRUE(document.MoveLayer(0, false) && document.MoveLayer(3, true)); // layers 1, 0, 3, 2
-    EXPECT_FALSE(document.MoveLayer(1, true) || document.MoveLayer(2, false) || document.MoveLayer(4, true));
-    EXPECT_FALSE(document.RemoveObject(4) || document.RemoveObject(-1) || !document.RemoveObject(0));
+    for (const auto& [index, down, moved] : { std::tuple(0, false, true), { 3, true, true }, // layers 1, 0, 3, 2
+             { 1, true, false }, { 2, false, false }, { 4, true, false } })
+        EXPECT_EQ(document.MoveLayer(index, down), moved) << index;
+    for (const auto& [index, removed] : { std::pair(4, false), { -1, false }, { 0, true } })
+        EXPECT_EQ(document.RemoveObject(index), removed) << index;
     EXPECT_EQ(document.GetLayerCount(), 3);
     for (const auto& [layer, was] : { std::pair(0, 1), { 1, 3 }, { 2, 2 } }) {
         int32_t index = -1;
-        EXPECT_TRUE(document.IndexOfLayer(layer, index) && index == was - 1);
+        ASSERT_TRUE(document.IndexOfLayer(layer, index));
         EXPECT_EQ(document.GetObjects().at(static_cast<size_t>(index))->GetPos(), vec(was, 0));
     }
 }
@@ -85,7 +87,7 @@ TEST_F(ScreenDocumentTest, GoesToAnEndAsByStepsAlsoOverMissingAndSharedLayers)
         }
 }
 
-TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCentreStrictlyInside)
+TEST_F(ScreenDocumentTest, FindsTheTopmostObjectUpToALayerWithoutOne)
 {
     Add({ 0, 0 });
     Add({ 40, 30 });
@@ -109,14 +111,19 @@ TEST_F(ScreenDocumentTest, FindsTheTopmostObjectAndSelectsWhatHasACornerAndItsCe
     objects[0]->SetLayer(7); // a gap ends the search
     EXPECT_FALSE(document.FindObjectAt({ 60, 50 }, index));
     EXPECT_EQ(index, -1);
-    for (const vec a : { vec(39, 29), vec(64, 29), vec(64, 49), vec(39, 49) })
-        EXPECT_TRUE(document.IsObjectInRect(1, a, a + vec(27, 22))) << a;
-    for (const auto& [a, b] : { std::pair(vec(64, 50), vec(91, 71)), { { 39, 29 }, { 65, 71 } } })
-        EXPECT_FALSE(document.IsObjectInRect(1, a, b)); // the centre is on the edge
-    EXPECT_FALSE(document.IsObjectInRect(1, { 41, 31 }, { 89, 69 })); // no corner
 }
 
-TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackgroundFromLayerToLayer)
+TEST_F(ScreenDocumentTest, CountsWhatHasACornerWithItsCentreStrictlyInsideARectangle)
+{
+    Add({ 40, 30 });
+    for (const vec a : { vec(39, 29), vec(64, 29), vec(64, 49), vec(39, 49) })
+        EXPECT_TRUE(document.IsObjectInRect(0, a, a + vec(27, 22))) << a;
+    for (const auto& [a, b] : { std::pair(vec(64, 50), vec(91, 71)), { { 39, 29 }, { 65, 71 } } })
+        EXPECT_FALSE(document.IsObjectInRect(0, a, b)); // the centre is on the edge
+    EXPECT_FALSE(document.IsObjectInRect(0, { 41, 31 }, { 89, 69 })); // no corner
+}
+
+TEST_F(ScreenDocumentTest, RendersObjectsFittedByTheirRulesFromLayerToLayer)
 {
     Add({ -5, 1 });
     Add({ -5, 2 }).SetBoundaryCheck(true);
@@ -138,7 +145,8 @@ TEST_F(ScreenDocumentTest, FitsEveryObjectByItsRuleAndRendersThemOnTheBackground
     document.FitAll();
     for (size_t i = 0; i < 3; ++i)
         EXPECT_EQ(Fake::PlaceOf(*objects[i]), fitted[i]) << i;
-    EXPECT_TRUE(drawings.empty() && animation.GetFrame() == 0); // nothing but fitted
+    EXPECT_EQ(drawings, Places()); // nothing but fitted
+    EXPECT_EQ(animation.GetFrame(), 0);
     objects[0]->SetPos({ -5, 1 });
     EXPECT_EQ(Frame(), (Places { background, fitted[1], fitted[0] }));
     EXPECT_EQ(Fake::PlaceOf(animation), fitted[2]);
@@ -191,7 +199,7 @@ TEST_F(ScreenDocumentTest, SlidesObjectsInFromEachSide)
     }
 }
 
-TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameAndEndsWhereTheObjectWas)
+TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameUntilTheObjectIsBack)
 {
     desktop.SetClock(0xFFFFFFF0); // the counter wraps around on the way
     ScreenObject& object = Add({ 770, 203 }, EffectFromTop);
@@ -208,10 +216,11 @@ TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameAndEndsWhereTheObjec
         EXPECT_EQ((object.GetPos() - object.GetSrc()).y, step == 4 ? -10 : 10 * step - 40); // at 0 the cut stays
     }
     EXPECT_EQ(Frame(100), (Places { { { 750, 203 }, { 0, 0 }, { 50, 40 } } }));
-    EXPECT_FALSE(object.GetEffectRunning() || !document.GetEffects().empty());
+    EXPECT_FALSE(object.GetEffectRunning());
+    EXPECT_EQ(document.GetEffects().size(), 0U);
 }
 
-TEST_F(ScreenDocumentTest, HidesForGoodWhatFadesOutAndKeepsRecordsWithTheirObjects)
+TEST_F(ScreenDocumentTest, RunsEachEffectOnItsOwnObjectAlone)
 {
     Add({ 1, 2 });
     Add({ 1, 2 }, EffectFromTop).SetEffectRunning(true); // without a record: repaired
@@ -224,9 +233,11 @@ TEST_F(ScreenDocumentTest, HidesForGoodWhatFadesOutAndKeepsRecordsWithTheirObjec
         EXPECT_EQ(Frame(100).size(), drawn);
     document.RemoveObject(2);
     EXPECT_EQ(Frame(100).size(), 2U);
-    EXPECT_TRUE(document.GetEffects().size() == 1 && document.GetEffects()[0].index == 2);
+    ASSERT_EQ(document.GetEffects().size(), 1U);
+    EXPECT_EQ(document.GetEffects()[0].index, 2);
     document.Clear();
-    EXPECT_TRUE(document.GetEffects().empty() && Add({ 1, 2 }).GetLayer() == 0);
+    EXPECT_EQ(document.GetEffects().size(), 0U);
+    EXPECT_EQ(Add({ 1, 2 }).GetLayer(), 0);
 }
 
 TEST_F(ScreenDocumentTest, PutsWhatIsHalfWayBackToItsPlaceWhenEffectsAreFinished)

@@ -4,6 +4,7 @@
 #include "platform/scripted/ScriptedDesktop.h"
 #include "shell/ShellContext.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/VecPrinting.h"
 
 #include <gtest/gtest.h>
 
