@@ -2,7 +2,8 @@
 
 #include <cstdint>
 
-// a * b / 31, rounded to the nearest whole number; both 0 to 31.
+// a * b / 31, rounded to the nearest whole number; both 0 to 31. The inner division gives the halves in the quotient,
+// the outer one rounds them up. No product lies half-way between two numbers, because 31 is odd.
 constexpr uint8_t Product_(uint32_t a, uint32_t b)
 {
     return static_cast<uint8_t>((2 * a * b / 31 + 1) / 2);
@@ -21,7 +22,8 @@ struct SBlendTab_ {
     static const SBlendTab_ instance;
 };
 
-// Level 0 leaves the destination, 31 gives the source. The two parts of a channel never add up to more than 31.
+// Linear interpolation, channel by channel: source * level / 31 + destination * (31 - level) / 31, each part rounded
+// for itself. Level 0 leaves the destination, 31 gives the source. The two parts never add up to more than 31.
 struct SBlend_ {
     const uint16_t* ofSource;
     const uint16_t* ofDestination;

@@ -7,14 +7,17 @@
 #include <new>
 #include <system_error>
 
-// The head of a BMP; all numbers are little-endian:
+// The head of a BMP, a BITMAPFILEHEADER and behind it a BITMAPINFOHEADER or one of its longer successors, as the window
+// system's documentation of device-independent bitmaps has them. Offset and length in bytes of what is read; all
+// numbers are little-endian:
 //
-//   0  2  "BM"                          22  4  height
-//  10  4  where the pixels start        26  2  planes
-//  14  4  size of the info header       28  2  bits per pixel
-//  18  4  width                         30  4  compression
+//   0  2  bfType, "BM"                          22  4  biHeight
+//  10  4  bfOffBits, where the pixels start     26  2  biPlanes
+//  14  4  biSize, of the info header            28  2  biBitCount, bits per pixel
+//  18  4  biWidth                               30  4  biCompression
 //
-// The palette follows the info header, four bytes an entry, and ends where the pixels start.
+// The palette follows the info header, four bytes an entry (RGBQUAD), and ends where the pixels start. A row of pixels
+// is padded to a multiple of four bytes.
 
 namespace {
 

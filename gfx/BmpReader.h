@@ -15,18 +15,21 @@ struct SBmpColor_ {
     uint8_t reserved = 0;
 };
 
-// Reads an uncompressed BMP of 8 or 24 bits per pixel row by row. Sizes are 1 to 65535, rows are stored bottom first.
+// Reads an uncompressed BMP of 8 or 24 bits per pixel row by row. Sizes are 1 to 65535 pixels, rows are stored bottom
+// first.
 class CBmpReader_ : private CFileR_ {
 public:
     static constexpr int paletteSize = 256;
 
-    // Closes what was open before. False, with nothing open, when the file cannot be read, is no such BMP or is too
-    // short for its pixels (the padding of the last stored row may be missing).
+    // The name is a backslash path in code page 950. Closes what was open before. False, with nothing open, when the
+    // file cannot be read, is no such BMP or is too short for its pixels (the padding of the last stored row may be
+    // missing).
     [[nodiscard]] bool Open_(const char* fileName);
     // Why the last Open_ answered false.
     const SLoadFailure_& Failure_() const { return failure; }
     // Row 0 is the top one, and the last one in the file: rows are read quickest from the highest number down. Writes
-    // width * bits / 8 bytes.
+    // width * bits / 8 bytes, palette indices or blue, green and red. False without a file or a buffer, for a row that
+    // is not there, and when it cannot be read.
     [[nodiscard]] bool ReadRow_(uint32_t row, uint8_t* buffer);
     void Close_();
 

@@ -22,7 +22,8 @@ constexpr uint16_t To555From565_(uint16_t color)
     return static_cast<uint16_t>((color >> 1 & 0x7FE0) | (color & 0x001F));
 }
 
-// Converts an array from 565 to 555 in place, two colours in one 32-bit word at a time. An array may begin at an
+// Converts an array from 565 to 555 in place, two colours in one 32-bit word at a time: the masks, those of a single
+// colour side by side, also clear what the shift brings from one colour into the other. An array may begin at an
 // address that is no multiple of 4, so the word is copied out and back, which costs one load and one store.
 inline void ConvertColorsTo555_(uint16_t* colors, size_t count)
 {

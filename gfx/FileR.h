@@ -16,8 +16,9 @@ public:
 
     // The name is a backslash path in code page 950. False when a file is open already or this one cannot be read.
     [[nodiscard]] bool Open_(const char* fileName);
+    // The offset counts bytes from the start. One behind the end is accepted, but nothing is there to be read.
     [[nodiscard]] bool SeekSet_(uint32_t offset);
-    // False unless all `count` bytes were there.
+    // Fills the caller's buffer. False unless all `count` bytes were there; the buffer's are then undefined.
     [[nodiscard]] bool Read_(void* buffer, int32_t count);
     void Close_();
 

@@ -5,7 +5,7 @@
 // What processors that scale many channels at once use instead of the blend tables.
 
 // Scaling by multiplication: channel * factor / 32768, rounded, is Product_(level, channel) for every channel and
-// level.
+// level. 32767 / 31 is a whole number, so the factor of level 31 is the largest 16-bit number, almost 1.
 struct SLevelFactors_ {
     // Of a blend that combines the picture's level with that of each pixel.
     struct SCombined_ {

@@ -15,22 +15,26 @@ enum PicKind : uint16_t { PicEmpty = 0, PicPlain = 1, PicKeyed = 2, PicSprite = 
 // SPic16Sprite_). Whoever created a picture releases it with Delete_.
 //
 // Colours: 565 has red in bits 15 to 11, green in 10 to 5, blue in 4 to 0; 555 has bit 15 zero, red in 14 to 10, green
-// in 9 to 5, blue in 4 to 0. Loaders make 565 pictures; everything is drawn in 555.
+// in 9 to 5, blue in 4 to 0. They are the two layouts that the window system documents for 16-bit device-independent
+// bitmaps. Loaders make 565 pictures; everything is drawn in 555.
 struct SPic16X_ {
     uint16_t kind;
     uint16_t width;
     uint16_t height;
 
-    // What depends on the kind (gfx/PicOps.cpp). Sizes are 0 for null and for empty kinds.
+    // What depends on the kind, down to Draw_, is carried out in gfx/PicOps.cpp.
+    //
+    // In pixels; 0 for null and for empty kinds.
     static uint16_t Width_(const SPic16X_* picture);
     static uint16_t Height_(const SPic16X_* picture);
 
-    // Converts the colours from 565 to 555 in place; exactly once per loaded picture, which must not be null.
+    // Converts the colours from 565 to 555 in place. The picture must not be null. A loaded one needs it exactly once,
+    // before it is drawn: a second time would shift its channels once more. A text picture is 555 from the start.
     static void ConvertTo555_(SPic16X_* picture);
     // Draws the w by h rectangle at (sourceX, sourceY) of the picture, as it looks after mirroring (flags bit 0) and
     // flipping (bit 1), at (destinationX, destinationY) of a 555 buffer whose rows are `pitch` bytes apart. Alpha 0 to
-    // 7 draws nothing, 248 to 255 is opaque. Clips and checks nothing: w and h are at least 1 and both rectangles lie
-    // inside.
+    // 7 draws nothing, 248 to 255 is opaque. Clips nothing: the picture must not be null and both rectangles must lie
+    // inside. A w or h below 1 draws nothing.
     static void Draw_(const SPic16X_* picture, uint16_t* destination, int32_t pitch, int32_t destinationX,
         int32_t destinationY, int32_t sourceX, int32_t sourceY, int32_t w, int32_t h, uint8_t alpha, uint8_t flags);
 
@@ -55,10 +59,13 @@ struct SPic16X_ {
 
     // The hit mask of a sprite (gfx/HitMask.cpp): one bit a pixel, least significant first, rows padded to whole bytes,
     // set where the pixel's level is at least `threshold` (0 to 31; opaque pixels have 31).
-    static uint32_t MaskSize_(const SPic16X_* picture); // in bytes
-    // Fills a mask of MaskSize_ bytes. The picture must be a sprite; answers 1.
+    //
+    // In bytes. The picture must not be null, here and in MakeMask_.
+    static uint32_t MaskSize_(const SPic16X_* picture);
+    // Fills the caller's MaskSize_ bytes, whatever they held. The picture must be a sprite. Always 1.
     static uint32_t MakeMask_(const SPic16X_* sprite, uint8_t* mask, uint8_t threshold);
-    // `width` is that of the sprite; x and y must lie inside it.
+    // Whether the bit of a pixel is set. `mask` is one that MakeMask_ has filled, `width` that of its sprite in pixels;
+    // x and y must lie inside the sprite.
     static bool MaskBit_(const uint8_t* mask, uint16_t width, uint16_t x, uint16_t y);
 
     // Renders one line of text (gfx/TextPicture.cpp; code page 950) with the font (null: the device's default) in a 555

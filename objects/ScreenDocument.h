@@ -36,6 +36,7 @@ public:
 
     // Lookups. On false the out argument is null or -1. The document keeps owning the objects.
     bool GetObject(int32_t index, ScreenObject*& object) const;
+    // The first object in list order on the layer.
     bool IndexOfLayer(int32_t layer, int32_t& index) const;
     // The object under a canvas point, topmost first; the search ends at a layer that no object holds.
     bool FindObjectAt(vec point, int32_t& index) const;
@@ -54,7 +55,7 @@ public:
     bool RemoveObject(int32_t index);
     // Deletes every object and clears the canvas; the backgrounds stay.
     void Clear();
-    // Hands the message to every object in list order.
+    // Hands the message to every object in list order. Always true.
     bool Dispatch(ObjectMessage msg, uint32_t wParam, uint32_t lParam);
 
     // Draws the backgrounds, then the objects from layer 0 up, and returns the canvas: 800 by 600 pixels in 555.
@@ -74,6 +75,7 @@ public:
     // Ends every running effect, a fade-out too, without drawing: the objects stand where they were when it started.
     void FinishEffects();
 
+    // As Render has left it; the document keeps owning it. Its rows are GetPitch bytes apart, its size is in pixels.
     const uint16_t* GetCanvas() const { return canvas.get(); }
     int32_t GetPitch() const { return pitch; }
     vec GetCanvasSize() const { return canvasSize; }

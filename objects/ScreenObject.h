@@ -39,8 +39,8 @@ public:
     // Draws the visible part into the 555 canvas, whose rows are `pitch` bytes apart. False when there is nothing to
     // draw or nowhere to draw it.
     virtual bool Draw(uint16_t* dest, int32_t pitch) = 0;
-    // `lParam` holds the pointer: x in its low, y in its high 16 bits, both signed. True when the message concerned
-    // the object.
+    // `lParam` holds the pointer: x in its low, y in its high 16 bits, both signed; no kind looks at `wParam`. True
+    // when the message concerned the object.
     virtual bool HandleMessage(ObjectMessage msg, uint32_t wParam, uint32_t lParam) = 0;
     // Whether the point (canvas pixels) falls on the object; `screen` is the size of the caller's screen.
     virtual bool HitTest(vec point, vec screen) = 0;
@@ -73,7 +73,7 @@ public:
         boundaryCheck = check;
         view = size;
     }
-    // 0 to 255; 255 is opaque.
+    // 0 to 255; 255 is opaque. Of a larger number, as a script may hold, drawing takes the low byte.
     uint32_t GetAlpha() const { return alpha; }
     void SetAlpha(uint32_t newAlpha) { alpha = newAlpha; }
     EffectKind GetEffect() const { return effect; }

@@ -20,7 +20,8 @@ struct SelectionEntry {
 class EditorState {
 public:
     // Client coordinates of the latest mouse message, left press and right press. At first the pointer is (0, 0) and
-    // both presses are (-1, -1), which says that there was none; Reset makes all three (0, 0).
+    // both presses are (-1, -1), which says that there was none; Reset makes all three (0, 0): a press that is
+    // still held goes on from there.
     vec GetPointer() const { return pointer; }
     void SetPointer(vec point) { pointer = point; }
     vec GetPressPoint() const { return pressPoint; }
