@@ -20,7 +20,6 @@ public:
     // Reads the whole file (a backslash path in code page 950) and puts the cursor on the first token. False when the
     // file cannot be read or has more than 64 MiB, or at the first malformed element, which ends the tokens; an unknown
     // word is told to the developer log.
-    // developer log.
     [[nodiscard]] bool Tokenize(const std::string& path);
     // The same for a script in memory, whose line ends are CR LF or LF.
     [[nodiscard]] bool TokenizeText(std::string script);

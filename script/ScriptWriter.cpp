@@ -7,9 +7,10 @@
 #include "objects/SelectboxObject.h"
 #include "objects/WordObject.h"
 #include "platform/Big5Literal.h"
+#include "script/ScriptKinds.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -31,21 +32,42 @@ vec FrameSize(const AnimationObject& animation)
     return strip.x > strip.y ? vec { strip.x / frames, strip.y } : vec { strip.x, strip.y / frames };
 }
 
+constexpr std::string_view BlockName(ObjectKind kind)
+{
+    switch (kind) {
+    case KindNone:
+        break;
+    case KindPicture:
+        return "Picture";
+    case KindButton:
+        return "Button";
+    case KindAnimation:
+        return "Animation";
+    case KindWord:
+        return "Word";
+    case KindCheckBox:
+        return "CheckBox";
+    case KindSelectbox:
+        return "Selectbox";
+    }
+    return {};
+}
+
 } // namespace
+
+ComposedScript ComposeScript(const ScreenInfo& info)
+{
+    ScriptWriter writer;
+    writer.screenInfo = info;
+    writer.Compose();
+    return std::move(writer.composed);
+}
 
 platform::FileWriting ScriptWriter::Write(ScreenInfo info, const std::string& path)
 {
     screenInfo = info;
     Compose();
-    return unstorableText ? platform::FileWriting::Failed : platform::ReplaceFileContent(path, script);
-}
-
-std::optional<std::string> ScriptWriter::FindUnstorableText(const ScreenInfo& info)
-{
-    ScriptWriter writer;
-    writer.screenInfo = info;
-    writer.Compose();
-    return writer.unstorableText;
+    return composed.unstorableText ? platform::FileWriting::Failed : platform::ReplaceFileContent(path, composed.bytes);
 }
 
 void ScriptWriter::Compose()
@@ -53,12 +75,8 @@ void ScriptWriter::Compose()
     WriteLine("ZULScreen {");
     WriteVec("ScreenSize", ScreenExtent());
     WriteVec("ScreenPos", screenInfo.pos);
-    WriteBlock<PictureObject>("Picture", KindPicture);
-    WriteBlock<ButtonObject>("Button", KindButton);
-    WriteBlock<AnimationObject>("Animation", KindAnimation);
-    WriteBlock<WordObject>("Word", KindWord);
-    WriteBlock<CheckBoxObject>("CheckBox", KindCheckBox);
-    WriteBlock<SelectboxObject>("Selectbox", KindSelectbox);
+    for (const ObjectKind kind : scriptKinds)
+        WriteBlock(kind);
     WriteLine("}");
 }
 
@@ -75,21 +93,41 @@ vec ScriptWriter::ScreenExtent() const
     return extent;
 }
 
-template <class Object> void ScriptWriter::WriteBlock(std::string_view word, ObjectKind kind)
+void ScriptWriter::WriteBlock(ObjectKind kind)
 {
     int32_t stage = 0;
     for (const auto& object : screenInfo.objects) {
         if (object->GetKind() != kind)
             continue;
         if (stage == 0)
-            WriteLine(std::string(word) + " {");
+            WriteLine(std::string(BlockName(kind)) + " {");
         WriteLine("Stage " + std::to_string(stage) + " {");
-        WriteStatements(static_cast<const Object&>(*object));
+        WriteStage(*object);
         WriteLine("}");
         ++stage;
     }
     if (stage > 0)
         WriteLine("}");
+}
+
+void ScriptWriter::WriteStage(const ScreenObject& object)
+{
+    switch (object.GetKind()) {
+    case KindNone:
+        break;
+    case KindPicture:
+        return WriteStatements(static_cast<const PictureObject&>(object));
+    case KindButton:
+        return WriteStatements(static_cast<const ButtonObject&>(object));
+    case KindAnimation:
+        return WriteStatements(static_cast<const AnimationObject&>(object));
+    case KindWord:
+        return WriteStatements(static_cast<const WordObject&>(object));
+    case KindCheckBox:
+        return WriteStatements(static_cast<const CheckBoxObject&>(object));
+    case KindSelectbox:
+        return WriteStatements(static_cast<const SelectboxObject&>(object));
+    }
 }
 
 void ScriptWriter::WriteStatements(const PictureObject& picture)
@@ -194,8 +232,8 @@ void ScriptWriter::WriteText(std::string_view key, const std::string& text)
 // There is no escape for a double quote inside.
 std::string ScriptWriter::Quoted(const std::string& text)
 {
-    if (!unstorableText && text.find('"') != std::string::npos)
-        unstorableText = text;
+    if (!composed.unstorableText && text.find('"') != std::string::npos)
+        composed.unstorableText = text;
     return '"' + text + '"';
 }
 
@@ -213,7 +251,7 @@ void ScriptWriter::WriteLine(std::string_view text)
         ++level;
     for (const char byte : line) {
         if (byte == '\n')
-            script += '\r';
-        script += byte;
+            composed.bytes += '\r';
+        composed.bytes += byte;
     }
 }

@@ -17,20 +17,30 @@ class PictureObject;
 class SelectboxObject;
 class WordObject;
 
+// A screen as the bytes of a screen script.
+struct ComposedScript {
+    std::string bytes;
+    // The first text that a script cannot hold, because a double quote is in it. The bytes are of no use then.
+    std::optional<std::string> unstorableText;
+};
+[[nodiscard]] ComposedScript ComposeScript(const ScreenInfo& info);
+
 // Writes a screen as a screen script. Made for one save.
 class ScriptWriter {
 public:
     // Replaces the file (a backslash path in code page 950) as a whole. Whatever is not Done leaves it as it was, as a
     // screen with an unstorable text does, which is Failed.
     [[nodiscard]] platform::FileWriting Write(ScreenInfo info, const std::string& path);
-
-    // The first text that a script cannot hold, because a double quote is in it.
-    static std::optional<std::string> FindUnstorableText(const ScreenInfo& info);
+    // The text that is to blame for it, if any.
+    const std::optional<std::string>& GetUnstorableText() const { return composed.unstorableText; }
 
 private:
+    friend ComposedScript ComposeScript(const ScreenInfo& info);
+
     void Compose();
     vec ScreenExtent() const;
-    template <class Object> void WriteBlock(std::string_view word, ObjectKind kind);
+    void WriteBlock(ObjectKind kind);
+    void WriteStage(const ScreenObject& object);
     void WriteStatements(const PictureObject& picture);
     void WriteStatements(const ButtonObject& button);
     void WriteStatements(const AnimationObject& animation);
@@ -48,6 +58,5 @@ private:
 
     ScreenInfo screenInfo;
     size_t level = 0; // of indentation
-    std::string script;
-    std::optional<std::string> unstorableText;
+    ComposedScript composed;
 };

@@ -101,12 +101,12 @@ void PrepareForSaving(ScreenDocument& document)
 bool SaveScreenScript(const std::string& path)
 {
     PrepareForSaving(Shell().document);
-    const ScreenInfo info = DescribeScreen();
-    if (const auto text = ScriptWriter::FindUnstorableText(info)) {
+    ScriptWriter writer;
+    const platform::FileWriting written = writer.Write(DescribeScreen(), path);
+    if (const auto& text = writer.GetUnstorableText()) {
         SayTextCannotBeStored(*text);
         return false;
     }
-    const platform::FileWriting written = ScriptWriter().Write(info, path);
     if (written != platform::FileWriting::Done) {
         SayFileCannotBeWritten(path, written);
         return false;

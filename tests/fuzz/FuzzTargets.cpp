@@ -45,7 +45,7 @@ void WorkObject(ScreenDocument& document, int32_t index)
 void CheckThatItCanBeSaved(ScreenDocument& document)
 {
     PrepareForSaving(document);
-    bool storable = !ScriptWriter::FindUnstorableText({ .objects = document.GetObjects() });
+    bool storable = !ComposeScript({ .objects = document.GetObjects() }).unstorableText;
     for (const auto& object : document.GetObjects())
         storable = storable && object->GetPos().x >= 0 && object->GetPos().y >= 0
             && static_cast<int32_t>(object->GetAlpha()) >= 0;

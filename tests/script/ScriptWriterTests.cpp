@@ -69,12 +69,12 @@ TEST(ScriptWriter, FindsTheFirstTextWithADoubleQuote)
 {
     ScreenDocument document;
     document.AddPicture(FromFile<PictureObject>("a\"b\\c.bmp", { 0, 0 }, { 1, 1 })); // only "c.bmp" is stored
-    EXPECT_EQ(ScriptWriter::FindUnstorableText({ .objects = document.GetObjects() }), std::nullopt);
+    EXPECT_EQ(ComposeScript({ .objects = document.GetObjects() }).unstorableText, std::nullopt);
     auto selectbox = std::make_unique<SelectboxObject>();
     selectbox->AddString("5\" disk");
     selectbox->AddString("a later \"");
     document.AddSelectbox(std::move(selectbox));
-    EXPECT_EQ(ScriptWriter::FindUnstorableText({ .objects = document.GetObjects() }), "5\" disk");
+    EXPECT_EQ(ComposeScript({ .objects = document.GetObjects() }).unstorableText, "5\" disk");
 }
 
 } // namespace
