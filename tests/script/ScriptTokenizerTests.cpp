@@ -33,7 +33,9 @@ TEST(ScriptTokenizer, KeepsTheTokensBeforeAFailureAndTheirPlacesInTheFile)
         EXPECT_EQ(tokens.Current().offset, offset) << text;
         tokens.Next();
     }
-    EXPECT_EQ(tokens.Current().type, TokenType::Unknown); // the end
+    EXPECT_EQ(tokens.Current().text, ""); // the end
+    tokens.RefuseCurrent(); // the first error stays
+    EXPECT_EQ(tokens.GetError()->problem, ScriptProblem::UnknownWord);
     EXPECT_EQ(tokens.Current().offset, 27U);
     EXPECT_EQ(tokens.GetError()->offset, 27U);
     ASSERT_TRUE(tokens.TokenizeText("Stage"));
