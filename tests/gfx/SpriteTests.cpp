@@ -60,7 +60,7 @@ TEST(HitMasks, HoldThePixelsThatReachTheThreshold)
     const Bytes opaque { 0b00000011, 0, 0b00110000, 1 };
     EXPECT_EQ(MaskOf(9, 2, stream, 31), opaque);
     EXPECT_EQ(MaskOf(9, 2, stream, 16), (Bytes { 0b00001011, 0, 0b10110000, 1 }));
-    for (const auto& [x, y, isSet] : { std::tuple(8, 1, true), { 8, 0, false }, { 3, 1, false } })
+    for (const auto& [x, y, isSet] : { std::tuple(8, 1, true), { 8, 0, false }, { 3, 1, false }, { 5, 1, true } })
         EXPECT_EQ(SPic16X_::MaskBit_(opaque.data(), 9, static_cast<uint16_t>(x), static_cast<uint16_t>(y)), isSet) << x;
     EXPECT_EQ(MaskOf(8, 1, { 0xC5, 7, 1, 7, 2, 3, 7, 0x41, 7, 1 }, 31), (Bytes { 0b11011010 }));
 }

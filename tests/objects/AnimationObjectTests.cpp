@@ -30,6 +30,7 @@ TEST_F(AnimationObjectTest, PlaysFrameByFrameThroughAPauseBackToTheFirst)
     EXPECT_EQ(animation.GetFrame(), 1);
     animation.SetAlpha(0);
     EXPECT_EQ(FrameAndAlphaAfter(99), std::pair(0, 255U));
+    EXPECT_EQ(animation.GetTick(), AnimationObject::neverStarted);
     animation.SetSections(0);
     animation.Play();
     EXPECT_EQ(FrameAfter(49), 0);
