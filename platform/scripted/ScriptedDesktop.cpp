@@ -5,6 +5,7 @@
 #include "platform/User.h"
 #include "platform/windows/WindowTable.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -112,7 +113,16 @@ void ScriptedDesktop::WindowClosed(Window& window)
 
 std::optional<POINT> ScriptedDesktop::PointerIn(const Window& window)
 {
-    return &window == MainWindow() ? FreePointer() : std::nullopt;
+    const auto at = FreePointer();
+    if (!at || &window != MainWindow())
+        return std::nullopt;
+    const POINT onDisplay { window.place.left + at->x, window.place.top + at->y };
+    const bool covered = std::any_of(topLevelWindows.begin() + 1, topLevelWindows.end(), [&](const Window* other) {
+        const RECT& place = other->place;
+        return other->visible && onDisplay.x >= place.left && onDisplay.y >= place.top && onDisplay.x < place.right
+            && onDisplay.y < place.bottom;
+    });
+    return covered ? std::nullopt : at;
 }
 
 bool ScriptedDesktop::Pump(bool)

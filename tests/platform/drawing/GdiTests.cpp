@@ -1,5 +1,5 @@
 #include "tests/platform/drawing/MemoryCanvas.h"
-#include "tests/platform/windows/WindowProgram.h"
+#include "tests/platform/windows/ScriptedProgram.h"
 
 #include <climits>
 
@@ -61,7 +61,7 @@ TEST_F(CopyingBits, CutsAtEveryEdge)
     EXPECT_EQ(copied, 0);
 }
 
-class WindowContext : public WindowProgram { };
+class WindowContext : public ScriptedProgram { };
 
 TEST_F(WindowContext, WidensFiveBitsToEightAndIsShownWhenItIsGivenBack)
 {

@@ -3,7 +3,6 @@
 #include "tests/platform/qt/QtProgram.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -34,29 +33,9 @@ TEST_F(QtQuestions, ShowABoxsTextAsItIs)
     EXPECT_EQ(MessageBoxA(window, u8"輸入值 = <b>&x"_big5, caption.c_str(), MB_OK), IDOK);
 }
 
-// A display need not say that the window is entered when the pointer has lain on it all the time.
-struct NoEntering final : QObject {
-    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::Enter; }
-};
-
-TEST_F(QtQuestions, LeaveWordOfThePointerWhenTheyClose)
-{
-    NoEntering filter;
-    Canvas().installEventFilter(&filter);
-    const HMENU menu = GetSubMenu(LoadMenuA(&personResources, "Colours"), 0);
-    for (const QPoint pointer :
-        { QPoint(120, 60), QPoint(20, 10), QPoint(-9, 60) }) { // on the canvas, the button, outside
-        QCursor::setPos(Canvas().mapToGlobal(pointer));
-        TakeLog();
-        WhileModal({ [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); } });
-        TrackPopupMenu(menu, TPM_RIGHTBUTTON, 300, 300, 0, window, nullptr);
-        EXPECT_EQ(TakeLog(), pointer.x() > 100 ? Log { "move 120 60 0" } : Log {});
-    }
-}
-
 TEST_F(QtQuestions, LetEitherButtonChooseFromAMenu)
 {
-    const HMENU menu = GetSubMenu(LoadMenuA(&personResources, "Colours"), 0);
+    const HMENU menu = GetSubMenu(LoadMenuA(&testResources, "Colours"), 0);
     for (const auto button : { Qt::LeftButton, Qt::RightButton }) {
         WhileModal({ [button] {
             const auto& shown = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
@@ -67,7 +46,7 @@ TEST_F(QtQuestions, LetEitherButtonChooseFromAMenu)
             QTest::mouseClick(shown.windowHandle(), button, {}, second);
         } });
         TrackPopupMenu(menu, TPM_RIGHTBUTTON, 70, 80, 0, window, nullptr);
-        EXPECT_EQ(TakeLog(), Log({ "command 12" }));
+        EXPECT_EQ(Settled(), Log({ "command 12" }));
     }
 }
 

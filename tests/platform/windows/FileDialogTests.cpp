@@ -1,13 +1,13 @@
 #include "platform/Big5Literal.h"
 #include "platform/Comdlg.h"
-#include "tests/platform/windows/WindowProgram.h"
+#include "tests/platform/windows/ScriptedProgram.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-class FileDialogs : public WindowProgram {
+class FileDialogs : public ScriptedProgram {
 protected:
     FileDialogs() { owner = OpenWindow(); }
 
@@ -73,7 +73,7 @@ TEST_F(FileDialogs, LeaveEverythingAsItWasWhenCancelled)
     EXPECT_EQ(fs::current_path(), folder.Path());
     EXPECT_TRUE(desktop.MessageBoxes().empty());
     desktop.Press(50, 50);
-    EXPECT_EQ(Played(), Log { "press 50 50" });
+    EXPECT_EQ(Played(), Log { "press 50 50 1" });
 }
 
 TEST_F(FileDialogs, RefuseWhatTheProgramCannotTake)

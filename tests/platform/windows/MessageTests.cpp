@@ -1,63 +1,10 @@
-#include "platform/DesktopEvents.h"
-#include "tests/platform/windows/WindowProgram.h"
+#include "tests/platform/windows/ScriptedProgram.h"
 
 #include <algorithm>
-#include <tuple>
 
 namespace {
 
-class Messages : public WindowProgram { };
-
-TEST_F(Messages, ComeInOrderAndAQuitRequestLast)
-{
-    HWND window = OpenWindow();
-    PostQuitMessage(16);
-    PostMessageA(window, WM_COMMAND, 5, 0);
-    PostMessageA(window, WM_COMMAND, 6, 0);
-    desktop.Key(VK_LEFT);
-    desktop.Press(3, 40);
-    desktop.ClickButton(7); // is sent, but does not overtake what is queued
-    EXPECT_EQ(Played(), (Log { "command 5", "command 6", "key 37", "press 3 40", "command 7" }));
-    MSG quit;
-    ASSERT_TRUE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
-    EXPECT_EQ(quit.message, WM_QUIT);
-    EXPECT_EQ(quit.wParam, 16U);
-    EXPECT_FALSE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
-}
-
-TEST_F(Messages, TellADoubleClickOnlyToAClassThatAsksForIt)
-{
-    HWND window = OpenWindow(CS_DBLCLKS);
-    desktop.DoubleClick(1, 20);
-    EXPECT_EQ(Played(), (Log { "press 1 20", "release 1 20", "double 1 20", "release 1 20" }));
-    window->wantsDoubleClicks = false;
-    desktop.DoubleClick(1, 20);
-    EXPECT_EQ(Played(), (Log { "press 1 20", "release 1 20", "press 1 20", "release 1 20" }));
-}
-
-TEST_F(Messages, FollowTheMouseOutsideAndOverButtonsOnlyWhileItIsCaptured)
-{
-    OpenWindow();
-    for (const bool captures : { false, true }) {
-        onWindowMessage = [&](HWND window, UINT message) {
-            if (message == WM_LBUTTONDOWN && captures)
-                SetCapture(window);
-            else if (message == WM_LBUTTONUP)
-                ReleaseCapture();
-            return LRESULT { 0 };
-        };
-        desktop.Press(199, 99);
-        desktop.MoveTo(19, 9); // on the button
-        desktop.MoveTo(-5, 300);
-        desktop.Release(-5, 300);
-        desktop.MoveTo(200, 50);
-        desktop.MoveTo(10, 10); // beside the button
-        EXPECT_EQ(Played(),
-            captures ? (Log { "press 199 99", "move 19 9", "move -5 300", "release -5 300", "move 10 10" })
-                     : (Log { "press 199 99", "move 10 10" }));
-        EXPECT_EQ(desktop.Capture(), nullptr);
-    }
-}
+class Messages : public ScriptedProgram { };
 
 TEST_F(Messages, EraseWithTheClassBrushBeforeTheQueueIsServed)
 {
@@ -141,30 +88,6 @@ TEST_F(Messages, ThatAreSentKeepNobodyWaitingUnlessTheyNeverEnd)
     goesOn = false;
     desktop.Key(VK_DELETE);
     EXPECT_EQ(Played(), Log { "key 46" });
-}
-
-TEST_F(Messages, BringAMenusChoiceOnceTheMenuIsClosed)
-{
-    HWND window = OpenWindow();
-    HMENU popup = GetSubMenu(LoadMenuA(&testResources, "Colours"), 0);
-    ASSERT_TRUE(popup);
-    EXPECT_FALSE(GetSubMenu(popup, 0));
-    // The window hears of the pointer behind the choice, unless it lies on the button or outside.
-    const std::tuple<uint32_t, POINT, Log> choices[]
-        = { { 12, { 30, 40 }, { "command 12", "move 30 40", "command 7" } },
-              { 0, { 31, 40 }, { "move 31 40", "command 7" } }, { 12, { 5, 5 }, { "command 12", "command 7" } },
-              { 0, { -1, 40 }, { "command 7" } } };
-    for (const auto& [choice, pointer, expected] : choices) {
-        desktop.AnswerMenu(choice, pointer);
-        EXPECT_TRUE(TrackPopupMenu(popup, TPM_RIGHTBUTTON, 70, 80, 0, window, nullptr));
-        EXPECT_EQ(TakeLog(), Log {});
-        desktop.ClickButton(7); // comes after all that
-        EXPECT_EQ(Played(), expected);
-    }
-    EXPECT_EQ(Played(), Log {}); // once only
-    ASSERT_EQ(desktop.Menus().size(), 4U);
-    EXPECT_EQ(desktop.Menus()[0].items[0].text, "紅");
-    EXPECT_EQ(desktop.Menus()[0].at.y, 80);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "tests/platform/windows/WindowProgram.h"
 
+#include "platform/Desktop.h"
 #include "platform/Gdi.h"
-#include "platform/Resources.h"
 
 #include <map>
 
@@ -10,12 +10,12 @@ namespace {
 using enum platform::ControlKind;
 
 constexpr platform::DialogControl controls[] = {
-    { Label, -1, "姓名", 5, 6, 30, 8 },
+    { Label, -1, "R&D <b>", 5, 6, 30, 8 },
     { .kind = Edit, .id = NameField, .text = "", .x = 40, .y = 4, .width = 50, .height = 14 },
-    { .kind = Edit, .id = AgeField, .text = "7", .x = 40, .y = 20, .width = 50, .height = 14, .digitsOnly = true },
+    { .kind = Edit, .id = AgeField, .text = "", .x = 40, .y = 20, .width = 50, .height = 14, .digitsOnly = true },
     { .kind = Edit, .id = SizeField, .text = "9", .x = 40, .y = 36, .width = 50, .height = 14, .displayOnly = true },
     { .kind = DropDown, .id = SortedList, .text = "", .x = 5, .y = 52, .width = 40, .height = 30, .sorted = true },
-    { DropDown, PlainList, "", 50, 52, 40, 30 },
+    { DropDown, PlainList, "", 50, 52, 41, 30 },
     { CheckBox, LoudBox, "大聲", 5, 70, 40, 10 },
     { PushButton, DoneButton, "確定", 50, 70, 40, 14 },
 };
@@ -23,7 +23,7 @@ constexpr platform::DialogTemplate dialogs[] = {
     { "SETTINGS", "設定", 100, 90, true, controls },
     { "BARE", "空白", 60, 20, false, {} },
 };
-constexpr platform::MenuItemTemplate items[] = { { 11, "紅" }, { 12, "綠" } };
+constexpr platform::MenuItemTemplate items[] = { { 11, "紅" }, { 12, "綠 & 藍" } };
 constexpr platform::MenuTemplate menus[] = { { "COLOURS", items } };
 
 const std::map<UINT, std::string> messageNames = {
@@ -59,8 +59,10 @@ HWND WindowProgram::OpenWindow(UINT classStyle)
     windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
     windowClass.lpszClassName = "Test";
     RegisterClassExA(&windowClass);
-    HWND window = CreateWindowExA(0, "TEST", "window", WS_CAPTION | WS_SYSMENU | WS_VISIBLE, 47, 31, 206, 132, nullptr,
-        nullptr, &testResources, nullptr);
+    const SIZE frame = platform::InstalledDesktop()->FrameSize({});
+    const int side = frame.cx / 2;
+    HWND window = CreateWindowExA(0, "TEST", "window", WS_CAPTION | WS_SYSMENU | WS_VISIBLE, 50 - side,
+        60 - (frame.cy - side), 200 + frame.cx, 100 + frame.cy, nullptr, nullptr, &testResources, nullptr);
     UpdateWindow(window);
     log.clear();
     return window;
@@ -71,9 +73,17 @@ Log WindowProgram::TakeLog()
     return std::exchange(log, {});
 }
 
-Log WindowProgram::Played()
+Log WindowProgram::Settled()
 {
-    desktop.PlayInput();
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            break;
+        }
+        DispatchMessageA(&message);
+    }
+    std::erase_if(log, [](const auto& note) { return note.ends_with("placed") || note.ends_with("erase"); });
     return TakeLog();
 }
 
@@ -90,9 +100,12 @@ void WindowProgram::Note(const std::string& receiver, UINT message, WPARAM wPara
     if (message >= WM_MOUSEMOVE && message <= WM_RBUTTONDBLCLK) {
         for (const WORD coordinate : { LOWORD(bits), HIWORD(bits) })
             note.append(" ").append(std::to_string(static_cast<int16_t>(coordinate)));
+        note.append(" ").append(std::to_string(wParam));
     } else if (message == WM_COMMAND || message == WM_KEYDOWN) {
         note.append(" ").append(std::to_string(wParam));
     }
+    if (message == WM_KEYDOWN && GetKeyState(VK_CONTROL) < 0)
+        note += " ctrl";
     log.push_back(note);
 }
 

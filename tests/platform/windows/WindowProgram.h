@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/Resources.h"
 #include "platform/User.h"
-#include "platform/scripted/ScriptedDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 using Log = std::vector<std::string>;
 
-// A small window program on a scripted desktop; it notes what reaches its window and its dialogs.
+// A small window program on the installed desktop; it notes what reaches its window and its dialogs.
 class WindowProgram : public testing::Test {
 protected:
     WindowProgram();
@@ -20,15 +20,16 @@ protected:
     // A visible window with a client area of 200 by 100 pixels at (50, 60) and a button 7 in its corner; its opening
     // is not noted.
     HWND OpenWindow(UINT classStyle = 0);
-    // What was noted since the last look, WM_WINDOWPOSCHANGED as "placed", a press at (50, 60) as "press 50 60".
+    // What was noted since the last look, WM_WINDOWPOSCHANGED as "placed", a press at (50, 60) as "press 50 60 1".
     Log TakeLog();
-    Log Played(); // the same, once the input queued on the desktop is used up
+    // The same once all input has been taken (a quit request stays pending), without placing and erasing, which every
+    // desktop does in its own time.
+    Log Settled();
     INT_PTR RunDialog(const char* name, HWND owner);
 
     static LRESULT WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static INT_PTR DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
-    platform::ScriptedDesktop desktop;
     std::function<LRESULT(HWND, UINT)> onWindowMessage; // a non-zero answer replaces the default handling
     std::function<void(HWND, UINT, WPARAM)> onDialogMessage;
 

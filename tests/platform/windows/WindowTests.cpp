@@ -1,29 +1,12 @@
 #include "platform/Big5Literal.h"
 #include "platform/windows/WindowTable.h"
-#include "tests/platform/windows/WindowProgram.h"
+#include "tests/platform/windows/ScriptedProgram.h"
 
 #include <climits>
 
 namespace {
 
-class Windows : public WindowProgram { };
-
-TEST_F(Windows, AreMadeWithTheirButtonsBeforeTheDesktopSeesThem)
-{
-    onWindowMessage = [&](HWND, UINT message) {
-        EXPECT_TRUE(message != WM_CREATE || desktop.MainWindow() == nullptr);
-        return LRESULT { 0 };
-    };
-    HWND window = OpenWindow();
-    ASSERT_EQ(desktop.MainWindow(), window);
-    HWND button = GetDlgItem(window, 7);
-    ASSERT_TRUE(button);
-    EXPECT_EQ(button->kind, platform::WindowKind::PushButton);
-    EXPECT_EQ(button->place.right, 20);
-    EXPECT_EQ(GetWindowLongA(window, GWL_HINSTANCE), reinterpret_cast<LONG_PTR>(&testResources));
-    desktop.ClickButton(7);
-    EXPECT_EQ(Played(), Log { "command 7" });
-}
+class Windows : public ScriptedProgram { };
 
 TEST_F(Windows, CannotBeMadeOfAnUnknownClassOrAgainstTheirOwnWill)
 {
