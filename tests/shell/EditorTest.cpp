@@ -39,15 +39,6 @@ void EditorTest::Play()
     PresentFrame();
 }
 
-void EditorTest::Choose(POINT at, uint32_t item, std::function<void(platform::DialogDriver&)> hands)
-{
-    desktop.AnswerMenu(item);
-    if (hands)
-        desktop.OnDialog(std::move(hands));
-    desktop.RightPress(at.x, at.y);
-    Play();
-}
-
 void EditorTest::Run(WORD command)
 {
     desktop.ClickButton(command);
@@ -83,14 +74,6 @@ PictureObject& EditorTest::AddPicture(vec pos, vec size)
     return added;
 }
 
-std::vector<int32_t> EditorTest::Selected() const
-{
-    std::vector<int32_t> indexes;
-    for (size_t i = 0; i < shell.editing.GetSelectionCount(); ++i)
-        indexes.push_back(shell.editing.GetSelectedIndex(i));
-    return indexes;
-}
-
 std::string EditorTest::LatestMessage() const
 {
     if (desktop.MessageBoxes().empty())
@@ -98,9 +81,8 @@ std::string EditorTest::LatestMessage() const
     return desktop.MessageBoxes().back().caption + ": " + desktop.MessageBoxes().back().text;
 }
 
-void AllKinds::SetUp()
+void EditorTest::MakeAllKinds()
 {
-    EditorTest::SetUp();
     const std::string strip = WritePicture("strip.bmp", 320, 40);
     for (const WORD command : { CommandLoadPicture, CommandLoadButton, CommandLoadAnimation }) {
         desktop.AnswerFileDialog(strip);

@@ -8,9 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
-#include <vector>
 
 // The editor on a scripted desktop, in a folder of its own with a dark background and the pictures of the built-in
 // controls, and a designer's words for looking at it.
@@ -23,8 +21,6 @@ protected:
 
     // Input queued on the desktop takes effect, then the idle step shows it.
     void Play();
-    // Presses the right button, chooses the item and works the dialog that it opens.
-    void Choose(POINT at, uint32_t item, std::function<void(platform::DialogDriver&)> hands = {});
     // Presses a command button; for Insert, types the text into the dialog that it opens.
     void Run(WORD command);
     void Insert(WORD command, const std::string& text);
@@ -39,25 +35,14 @@ protected:
     // object that shows such a picture.
     std::string WritePicture(const std::string& name, int width, int height, uint8_t grey = 150); // answers its path
     PictureObject& AddPicture(vec pos, vec size);
+    // One object of each kind, made with the command buttons and put one below the other.
+    void MakeAllKinds();
 
-    template <class Kind = ScreenObject> Kind& ObjectAt(int32_t index) const
-    {
-        return dynamic_cast<Kind&>(*shell.document.GetObjects().at(static_cast<size_t>(index)));
-    }
-    std::vector<int32_t> Selected() const;
+    ScreenObject& ObjectAt(int32_t index) const { return *shell.document.GetObjects().at(static_cast<size_t>(index)); }
     // The caption and text of the latest message box, "caption: text"; empty when there was none.
     std::string LatestMessage() const;
 
     TemporaryFolder folder;
     platform::ScriptedDesktop desktop;
     ShellContext shell;
-};
-
-// One object of each kind, made with the command buttons and put one below the other.
-class AllKinds : public EditorTest {
-protected:
-    enum { Picture, Button, Animation, Word, CheckBox, Selectbox };
-
-    void SetUp() override;
-    static POINT On(int32_t object) { return { 15, 15 + 80 * object }; }
 };

@@ -31,7 +31,7 @@ protected:
     }
 };
 
-TEST_F(FramePresentation, FitsASelectedObjectAndOutlinesItsVisiblePartOnTheInside)
+TEST_F(FramePresentation, OutlinesTheVisiblePartOfASelectedObjectOnTheInside)
 {
     AddPicture({ 100, 580 }, { 40, 30 });
     shell.editing.SelectOnly(5, { 0, 0 }); // names no object
