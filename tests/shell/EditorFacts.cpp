@@ -51,7 +51,9 @@ void ObjectNames::Refresh(const ScreenDocument& document)
 std::string ObjectNames::Of(const ScreenObject* object) const
 {
     const auto found = names.find(object);
-    return found == names.end() ? "none" : found->second;
+    if (found == names.end())
+        return object ? "one that is gone" : "none";
+    return found->second;
 }
 
 const ScreenObject* ObjectNames::Find(const std::string& name) const

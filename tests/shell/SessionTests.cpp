@@ -12,7 +12,8 @@
 // Each file of the folder "sessions" is a designer's session: what the designer does, a line each, and indented below
 // it what has changed by then. A line with "> " is done in the dialog that the lines before have opened. Controls,
 // commands and keys go by the names that the editor's headers give them; a place is a point of the canvas or the name
-// of an object, which is then pointed at inside its corner.
+// of an object, which is then pointed at inside its corner. Of a new session only what is done need be written: the
+// failure shows what changes by it, to be read and taken over.
 
 namespace {
 
