@@ -6,7 +6,8 @@
 #include <string_view>
 
 // Code page 950 (Big5 with its extensions and user-defined rows): the form of every text inside the program. This and
-// the functions that call it are the only places where texts meet Unicode.
+// the functions that call it are the only places where texts meet Unicode. The Unicode Consortium publishes the page as
+// mapping tables (CP950.TXT, with the user-defined rows bestfit950.txt).
 namespace platform {
 
 // One character of a code-page text. A broken one (a lone lead byte, FF, a pair that the page does not define) has no

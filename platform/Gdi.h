@@ -14,6 +14,7 @@ constexpr int OPAQUE = 2;
 constexpr int WHITE_BRUSH = 0;
 constexpr int COLOR_WINDOW = 5;
 
+// The same fields in the same order as the information header of a BMP file.
 struct BITMAPINFOHEADER {
     DWORD biSize = 40;
     LONG biWidth = 0;

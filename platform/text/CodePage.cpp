@@ -106,15 +106,21 @@ const PageTables& Page()
     return page;
 }
 
+// No character of the page lies beyond U+FFFF: three bytes are enough.
 void AppendUtf8(std::string& text, uint32_t codePoint)
 {
-    const auto tail = [codePoint](int shift) { return static_cast<char>(0x80 | ((codePoint >> shift) & 0x3F)); };
-    if (codePoint < 0x80)
-        text += static_cast<char>(codePoint);
-    else if (codePoint < 0x800)
-        (text += static_cast<char>(0xC0 | codePoint >> 6)) += tail(0);
-    else
-        ((text += static_cast<char>(0xE0 | codePoint >> 12)) += tail(6)) += tail(0);
+    const auto append = [&text](uint32_t byte) { text += static_cast<char>(byte); };
+    const auto sixBits = [codePoint](int shift) { return 0x80 | (codePoint >> shift & 0x3F); };
+    if (codePoint < 0x80) {
+        append(codePoint);
+    } else if (codePoint < 0x800) {
+        append(0xC0 | codePoint >> 6);
+        append(sixBits(0));
+    } else {
+        append(0xE0 | codePoint >> 12);
+        append(sixBits(6));
+        append(sixBits(0));
+    }
 }
 
 constexpr uint32_t malformed = 0xFFFFFFFF;
