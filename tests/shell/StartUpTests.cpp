@@ -64,14 +64,18 @@ TEST_F(StartingUp, EndsWithZeroWhenTheWindowCannotBeMade)
 
 class MainWindow : public EditorTest { };
 
-TEST_F(MainWindow, BearsTheProgramsTitleAndIcons)
+TEST_F(MainWindow, CanBeToldFromOtherPrograms)
 {
     EXPECT_EQ(platform::Utf8FromCodePage(shell.mainWindow->text), "編輯畫面輔助器");
-    EXPECT_TRUE(shell.mainWindow->closeBox);
-    EXPECT_TRUE(shell.mainWindow->visible);
-    EXPECT_FALSE(shell.mainWindow->erasePending); // it is painted at once
     EXPECT_EQ(shell.mainWindow->largeIcon->id, LargeIconId);
     EXPECT_EQ(shell.mainWindow->smallIcon->id, SmallIconId);
+}
+
+TEST_F(MainWindow, StandsPaintedOnTheDisplay)
+{
+    EXPECT_TRUE(shell.mainWindow->closeBox);
+    EXPECT_TRUE(shell.mainWindow->visible);
+    EXPECT_FALSE(shell.mainWindow->erasePending);
 }
 
 TEST_F(MainWindow, PresentsAFrameWhenItIsErasedOrMoved)
