@@ -156,6 +156,22 @@ TEST_F(Conformance, ADialogKeepsInputFromItsOwnerButNotItsMessages)
     EXPECT_EQ(quit.message, WM_QUIT);
 }
 
+TEST_F(Conformance, AClickIsDealtWithToTheEndBeforeTheNextInputComes)
+{
+    onWindowMessage = [this](HWND, UINT message) {
+        if (message == WM_COMMAND) {
+            EXPECT_EQ(RunDialog("Settings", window), 42);
+            hands->Key(VK_DELETE);
+            MSG next;
+            EXPECT_FALSE(PeekMessageA(&next, nullptr, 0, 0, PM_REMOVE));
+        }
+        return LRESULT { 0 };
+    };
+    hands->WorkInDialog({ [this] { hands->Click(DoneButton); } });
+    hands->ClickButton();
+    EXPECT_EQ(Settled(), (Log { "command 7", "dialog init", "dialog command 7", "dialog destroy", "key 46" }));
+}
+
 TEST_F(Conformance, ADialogsKeysAndCloseBoxAreCommands)
 {
     Work({ [this] { Settled(); }, [this] { hands->DialogKey(VK_RETURN); }, [this] { hands->DialogKey(VK_ESCAPE); },

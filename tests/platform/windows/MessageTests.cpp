@@ -55,20 +55,6 @@ TEST_F(Messages, ForADestroyedWindowAreDroppedAndItsHandleIsHarmless)
     EXPECT_EQ(Played(), Log {});
 }
 
-// A handler that is reached from inside the pump (a button's) must not let the next input in before it is done.
-TEST_F(Messages, LetNoInputInBesidesTheOneThatIsHandled)
-{
-    OpenWindow();
-    onWindowMessage = [](HWND, UINT message) {
-        MSG next;
-        EXPECT_FALSE(message == WM_COMMAND && PeekMessageA(&next, nullptr, 0, 0, PM_REMOVE));
-        return LRESULT { 0 };
-    };
-    desktop.ClickButton(7);
-    desktop.Key(VK_DELETE);
-    EXPECT_EQ(Played(), (Log { "command 7", "key 46" }));
-}
-
 TEST_F(Messages, ThatAreSentKeepNobodyWaitingUnlessTheyNeverEnd)
 {
     OpenWindow();
