@@ -74,6 +74,10 @@ TEST_F(AnimationObjectTest, IsHitWhereItsWholeFrameIsDrawn)
         animation.Reset();
         ASSERT_TRUE(Load(animation, "strip.bmp"));
         animation.SetPos(pos);
+        animation.SetAlpha(7); // until it plays
+        Draw(animation);
+        EXPECT_EQ(Drawn(), 0);
+        animation.SetPos(pos);
         animation.SetInterval(0);
         animation.Play();
         EXPECT_FALSE(animation.Draw(nullptr, 2 * ScreenWidth)); // steps, moves nothing

@@ -39,6 +39,10 @@ TEST_F(CheckBoxObjectTest, TogglesByALeftPressOnItsBoxAlone)
         EXPECT_FALSE(checkBox.HandleMessage(msg, 0, Pointer(point.x, point.y)));
         ExpectLook(state);
     }
+    checkBox.SetPos({ 200, 50 }); // neither drawn nor asked there yet
+    checkBox.HandleMessage(MsgLeftDown, 0, Pointer(210, 60));
+    ExpectLook(1);
+    checkBox.SetPos({ 100, 50 });
     checkBox.SetEnabled(false);
     checkBox.HandleMessage(MsgLeftDown, 0, Pointer(110, 60));
     ExpectLook(3);

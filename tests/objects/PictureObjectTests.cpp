@@ -39,7 +39,7 @@ TEST_F(PictureObjectTest, TakesPureGreenAsTransparentUnlessThereIsACompanion)
     EXPECT_EQ(Drawn(), 33);
     EXPECT_EQ(picture.GetSize(), vec(11, 4));
     EXPECT_FALSE(picture.PixelHit({ 0, 1 })); // nearly opaque is not hit
-    for (const auto& [alpha, pixels] : { std::pair(7U, 0), { 256U + 248U, 33 } }) {
+    for (const auto& [alpha, pixels] : { std::pair(7U, 0), { 256U + 7U, 0 }, { 256U + 248U, 33 } }) {
         picture.SetAlpha(alpha);
         EXPECT_TRUE(Draw(picture));
         EXPECT_EQ(Drawn(), pixels) << alpha;
@@ -80,6 +80,9 @@ TEST_F(PictureObjectTest, IsHitOnePixelBeyondItsViewButByPixelOnlyWithin)
     EXPECT_TRUE(picture.HitTest({ 0, 3 }, { 9, 2 }));
     picture.SetPos({ 0, -2 });
     EXPECT_FALSE(picture.PixelHit({ 0, -1 }));
+    picture.SetView({ 5, 4 });
+    EXPECT_TRUE(picture.PixelHit({ 4, 0 }));
+    EXPECT_FALSE(picture.PixelHit({ 5, 0 }));
 }
 
 TEST_F(PictureObjectTest, IsCutToPictureAndCanvasWhateverItsFieldsSay)

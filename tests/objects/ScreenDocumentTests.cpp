@@ -215,6 +215,7 @@ TEST_F(ScreenDocumentTest, ShowsOneStepOfAnEffectPerDueFrameUntilTheObjectIsBack
         EXPECT_EQ(Frame(100).size(), 1U);
         EXPECT_EQ((object.GetPos() - object.GetSrc()).y, step == 4 ? -10 : 10 * step - 40); // at 0 the cut stays
     }
+    EXPECT_EQ(document.GetEffects()[0].lastTick, 2409U);
     EXPECT_EQ(Frame(100), (Places { { { 750, 203 }, { 0, 0 }, { 50, 40 } } }));
     EXPECT_FALSE(object.GetEffectRunning());
     EXPECT_EQ(document.GetEffects().size(), 0U);
@@ -238,6 +239,32 @@ TEST_F(ScreenDocumentTest, RunsEachEffectOnItsOwnObjectAlone)
     document.Clear();
     EXPECT_EQ(document.GetEffects().size(), 0U);
     EXPECT_EQ(Add({ 1, 2 }).GetLayer(), 0);
+}
+
+TEST_F(ScreenDocumentTest, KeepsEffectsApartThatStartAndEndAtDifferentTimes)
+{
+    for (int32_t index = 0; index < 3; ++index) {
+        Add({ 100 * index, 10 }, EffectFromLeft);
+        document.StartEffect(index);
+    }
+    for (int32_t frame = 0; frame < 30; ++frame) {
+        Frame(100);
+        if (frame == 7)
+            document.StartEffect(0); // again, after its end
+        for (int32_t i = 0; i < 3; ++i)
+            EXPECT_EQ(
+                document.GetObjects().at(static_cast<size_t>(i))->GetPos().x, std::clamp(10 * frame - 50, 0, 100 * i))
+                << frame;
+    }
+    EXPECT_EQ(document.GetEffects().size(), 0U);
+    for (const bool clear : { false, true }) {
+        document.StartEffect(0);
+        EXPECT_EQ(document.GetEffects().size(), 1U);
+        clear ? document.Clear() : document.FinishEffects();
+        Add({ 0, 0 }, EffectFromLeft);
+    }
+    document.StartEffect(0);
+    EXPECT_EQ(document.GetEffects().size(), 1U);
 }
 
 TEST_F(ScreenDocumentTest, PutsWhatIsHalfWayBackToItsPlaceWhenEffectsAreFinished)

@@ -139,16 +139,19 @@ TEST_F(TextLine, IsCutAtTheEdgesWhereverItIsPut)
 TEST(WithoutAnyFont, EveryCharacterIsABoxAndTheLogSaysSo)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto drawWithoutFonts = [] {
+    const auto drawWithFonts = [](const std::string& fonts) {
         const TemporaryFolder folder;
-        folder.Write("no-fonts.conf", "<fontconfig></fontconfig>");
+        folder.Write("no-fonts.conf", "<fontconfig>" + fonts + "</fontconfig>");
         setenv("FONTCONFIG_FILE", (folder.Path() + "/no-fonts.conf").c_str(), 1);
         MemoryCanvas canvas(26, 16);
         SetTextColor(canvas.context, RGB(0, 0, 255));
         TextOutA(canvas.context, 0, 0, u8"中a"_big5, 3);
         return canvas.Pixels(blue555)[1] == "?##############??######?.." ? 0 : 1;
     };
-    EXPECT_EXIT(std::exit(drawWithoutFonts()), testing::ExitedWithCode(0), "No font with Chinese characters");
+    EXPECT_EXIT(std::exit(drawWithFonts("")), testing::ExitedWithCode(0), "No font with Chinese characters");
+    const char* latin = "<dir>/usr/share/fonts/truetype/dejavu</dir>"; // has the letters
+    EXPECT_EXIT(
+        std::exit(drawWithFonts(latin)), [](int) { return true; }, "No font with Chinese characters");
 }
 
 } // namespace
