@@ -37,6 +37,11 @@ std::optional<MSG> TakeMessage()
     return message;
 }
 
+bool HasQuitRequest()
+{
+    return Queue().quitCode.has_value();
+}
+
 std::optional<int> TakeQuitRequest()
 {
     return std::exchange(Queue().quitCode, std::nullopt);

@@ -9,6 +9,7 @@ namespace platform {
 
 bool HasMessages(); // beside a quit request
 std::optional<MSG> TakeMessage();
+bool HasQuitRequest();
 // The exit code of a quit request, which is then no longer pending.
 std::optional<int> TakeQuitRequest();
 

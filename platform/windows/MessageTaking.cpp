@@ -16,8 +16,10 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
     if (!message || window || first != 0 || last != 0 || remove != PM_REMOVE)
         return FALSE;
     platform::DeliverErases();
-    // What is queued was done before what the user does now, and some of that is sent without queueing.
-    for (int sent = 0; sent < maxSentInARow && !platform::HasMessages() && platform::LetInputIn(false); ++sent)
+    // What is queued was done before what the user does now, and some of that is sent without queueing. Behind a quit
+    // request nothing is let in any more: the program is about to end.
+    const auto wantsInput = [] { return !platform::HasMessages() && !platform::HasQuitRequest(); };
+    for (int sent = 0; sent < maxSentInARow && wantsInput() && platform::LetInputIn(false); ++sent)
         platform::DeliverErases();
     if (const auto taken = platform::TakeMessage()) {
         *message = *taken;

@@ -25,10 +25,12 @@ TEST_F(ScriptCommands, QuickSaveAsksWhileTheNameHasNoFullStop)
 
 TEST_F(ScriptCommands, SayWhyAFileCannotBeWritten)
 {
-    std::filesystem::create_symlink("nowhere/screen", "lost.tobrik");
+    std::filesystem::create_directory("elsewhere");
+    std::filesystem::create_symlink("nowhere/screen", "elsewhere/lost.tobrik");
     AddPicture({ 10, 10 }, { 40, 30 });
-    SaveAs(folder.Path() + "/lost.tobrik");
-    EXPECT_EQ(LatestMessage(), "無法存檔: 無法寫入 " + folder.Path() + "/lost.tobrik: 沒有這個資料夾");
+    SaveAs(folder.Path() + "/elsewhere/lost.tobrik");
+    EXPECT_EQ(LatestMessage(), "無法存檔: 無法寫入 " + folder.Path() + "/elsewhere/lost.tobrik: 沒有這個資料夾");
+    EXPECT_EQ(std::filesystem::current_path(), folder.Path());
     rlimit before {};
     getrlimit(RLIMIT_FSIZE, &before);
     const rlimit small { 10, before.rlim_max };
@@ -39,6 +41,17 @@ TEST_F(ScriptCommands, SayWhyAFileCannotBeWritten)
     EXPECT_EQ(desktop.MessageBoxes().back().owner, shell.mainWindow);
     EXPECT_EQ(shell.document.GetObjectCount(), 1);
     EXPECT_FALSE(shell.editing.HasFileName());
+}
+
+TEST_F(ScriptCommands, NothingIsSavedOverAScriptThatEndsTheEditor)
+{
+    const std::string broken = "ZULScreen { Word { Stage 0 { WordText = \"x\" ; } } Picture";
+    folder.Write("Image/broken.tobrik", broken);
+    desktop.AnswerFileDialog(folder.Path() + "/Image/broken.tobrik");
+    desktop.ClickButton(CommandLoadScript);
+    desktop.Key('S', MK_CONTROL);
+    EXPECT_EQ(RunToTheEnd(), 16);
+    EXPECT_EQ(ReadBytes(folder.Path() + "/Image/broken.tobrik"), broken);
 }
 
 } // namespace

@@ -40,22 +40,33 @@ protected:
     HWND window = nullptr;
 };
 
-TEST_F(Conformance, InputComesInTheOrderInWhichItWasMadeAndAQuitRequestLast)
+TEST_F(Conformance, InputComesInTheOrderInWhichItWasMade)
 {
-    PostQuitMessage(16);
     PostMessageA(window, WM_COMMAND, 5, 0);
     hands->Key(VK_LEFT);
     hands->ClickButton(); // is sent, but does not overtake what is queued
     hands->Key('S', true);
     hands->CloseBox();
     EXPECT_EQ(Settled(), (Log { "command 5", "key 37", "command 7", "key 83 ctrl", "close" }));
-    MSG quit;
-    ASSERT_TRUE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
-    EXPECT_EQ(quit.message, WM_QUIT);
-    EXPECT_EQ(quit.wParam, 16U);
     hands->ClickButton();
-    EXPECT_FALSE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
+    MSG none;
+    EXPECT_FALSE(PeekMessageA(&none, nullptr, 0, 0, PM_REMOVE));
     EXPECT_EQ(TakeLog(), Log { "command 7" });
+}
+
+TEST_F(Conformance, AQuitRequestComesBehindWhatIsQueuedAndBeforeNewInput)
+{
+    PostQuitMessage(16);
+    PostMessageA(window, WM_COMMAND, 5, 0);
+    hands->Key(VK_LEFT);
+    hands->ClickButton();
+    MSG taken;
+    ASSERT_TRUE(PeekMessageA(&taken, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(taken.message, WM_COMMAND);
+    ASSERT_TRUE(PeekMessageA(&taken, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(taken.message, WM_QUIT);
+    EXPECT_EQ(taken.wParam, 16U);
+    EXPECT_EQ(Settled(), (Log { "key 37", "command 7" }));
 }
 
 TEST_F(Conformance, TheMouseIsFollowedOutsideAndOverButtonsOnlyWhileItIsCaptured)
@@ -147,13 +158,13 @@ TEST_F(Conformance, ADialogKeepsInputFromItsOwnerButNotItsMessages)
     Log noted = Settled();
     std::erase_if(noted, [](const auto& note) { return note.starts_with("dialog"); });
     EXPECT_EQ(noted, Log { "command 8" });
+    MSG quit;
+    EXPECT_TRUE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(quit.message, WM_QUIT);
     hands->Press({ -9, 50 }); // the capture has ended
     hands->Release({ -9, 50 });
     hands->Key(VK_DELETE);
     EXPECT_EQ(Settled(), Log { "key 46" });
-    MSG quit;
-    EXPECT_TRUE(PeekMessageA(&quit, nullptr, 0, 0, PM_REMOVE));
-    EXPECT_EQ(quit.message, WM_QUIT);
 }
 
 TEST_F(Conformance, AClickIsDealtWithToTheEndBeforeTheNextInputComes)
