@@ -77,7 +77,8 @@ private:
         fs::directory_iterator entry(folder.empty() ? "." : folder, error);
         for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
             std::string other = entry->path().filename().native();
-            if (other != name && FoldCase(other) == folded)
+            // Both cases of a letter take as many bytes, so that most names need not be folded.
+            if (other.size() == name.size() && other != name && FoldCase(other) == folded)
                 names.push_back(std::move(other));
         }
         std::ranges::sort(names);

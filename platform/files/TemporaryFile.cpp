@@ -43,7 +43,11 @@ pid_t MakerOf(const std::string& name)
 bool IsAbandoned(const fs::path& file)
 {
     const pid_t maker = MakerOf(file.filename().native());
-    if (maker == 0 || kill(maker, 0) == 0 || errno != ESRCH)
+    if (maker == 0)
+        return false;
+    // In a container the number may be the same in each run: what an earlier process has left under ours is not ours.
+    const bool running = maker != getpid() && (kill(maker, 0) == 0 || errno != ESRCH);
+    if (running)
         return false;
     const int descriptor = open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)
@@ -135,7 +139,8 @@ void TemporaryFile::TakeAfter(const fs::path& other, const struct stat& status) 
 
 int TemporaryFile::TakePlaceOf(const fs::path& target)
 {
-    if (fsync(descriptor) != 0)
+    // Some file systems have nothing to flush and refuse it.
+    if (fsync(descriptor) != 0 && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
         return errno;
     if (const int error = Close(); error != 0)
         return error;
