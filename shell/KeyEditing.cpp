@@ -3,6 +3,7 @@
 #include "objects/AnimationObject.h"
 #include "platform/User.h"
 #include "shell/ObjectLookup.h"
+#include "shell/ScriptCommands.h"
 
 namespace {
 
@@ -51,39 +52,44 @@ void PreviewUnderPointer()
     }
 }
 
+void SaveWithControl()
+{
+    if (GetKeyState(VK_CONTROL) < 0)
+        QuickSave();
+}
+
 } // namespace
 
 void EditWithKey(int virtualKey)
 {
-    switch (virtualKey) {
-    case VK_ESCAPE:
-        SendMessageA(Shell().mainWindow, WM_CLOSE, 0, 0);
-        break;
-    case VK_PRIOR:
-        MoveLayerUnderPointer(false);
-        break;
-    case VK_NEXT:
-        MoveLayerUnderPointer(true);
-        break;
-    case VK_LEFT:
-        NudgeSelection({ -1, 0 });
-        break;
-    case VK_UP:
-        NudgeSelection({ 0, -1 });
-        break;
-    case VK_RIGHT:
-        NudgeSelection({ 1, 0 });
-        break;
-    case VK_DOWN:
-        NudgeSelection({ 0, 1 });
-        break;
-    case VK_DELETE:
-        DeleteUnderPointer();
-        break;
-    case 'P':
-        PreviewUnderPointer();
-        break;
-    default:
-        break;
-    }
+    constexpr struct {
+        int virtualKey;
+        void (*run)();
+    } keys[] = {
+        { VK_ESCAPE, [] { SendMessageA(Shell().mainWindow, WM_CLOSE, 0, 0); } },
+        { VK_PRIOR, [] { MoveLayerUnderPointer(false); } },
+        { VK_NEXT, [] { MoveLayerUnderPointer(true); } },
+        { VK_LEFT,
+            [] {
+                NudgeSelection({ -1, 0 });
+            } },
+        { VK_UP,
+            [] {
+                NudgeSelection({ 0, -1 });
+            } },
+        { VK_RIGHT,
+            [] {
+                NudgeSelection({ 1, 0 });
+            } },
+        { VK_DOWN,
+            [] {
+                NudgeSelection({ 0, 1 });
+            } },
+        { VK_DELETE, DeleteUnderPointer },
+        { 'P', PreviewUnderPointer },
+        { 'S', SaveWithControl },
+    };
+    for (const auto& key : keys)
+        if (key.virtualKey == virtualKey)
+            return key.run();
 }

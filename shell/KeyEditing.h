@@ -1,5 +1,5 @@
 #pragma once
 
 // What a key does to the screen: arrows nudge the selection; Delete, Page Up, Page Down and P act on the object under
-// the pointer; Escape closes the editor. Other keys do nothing. `virtualKey` is a VK_ code.
+// the pointer; Ctrl+S saves; Escape closes the editor. Other keys do nothing. `virtualKey` is a VK_ code.
 void EditWithKey(int virtualKey);

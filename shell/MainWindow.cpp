@@ -6,7 +6,6 @@
 #include "shell/FramePresentation.h"
 #include "shell/KeyEditing.h"
 #include "shell/MouseEditing.h"
-#include "shell/ScriptCommands.h"
 #include "shell/ShellContext.h"
 
 namespace {
@@ -25,13 +24,6 @@ void OnCommand(WORD id)
     SetFocus(Shell().mainWindow);
 }
 
-void OnKeyDown(int virtualKey)
-{
-    EditWithKey(virtualKey);
-    if (virtualKey == 'S' && GetKeyState(VK_CONTROL) < 0)
-        QuickSave();
-}
-
 } // namespace
 
 LRESULT MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -48,7 +40,7 @@ LRESULT MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         PresentFrame();
         break;
     case WM_KEYDOWN:
-        OnKeyDown(static_cast<int>(wParam));
+        EditWithKey(static_cast<int>(wParam));
         break;
     case WM_COMMAND:
         OnCommand(LOWORD(wParam));
