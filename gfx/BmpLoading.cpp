@@ -150,8 +150,12 @@ SPic16X_* SPic16X_::LoadBmpAlpha_(
     CSpriteWork_ work(color);
     if (!work.IsReady_())
         return RefuseAsTooLarge_(why);
-    if (!ReadPlane_(colorFileName, work.Indices_(), why) || !ReadPlane_(alphaFileName, work.Alphas_(), why))
+    if (!ReadPlane_(colorFileName, work.Indices_(), why))
         return nullptr;
+    if (!ReadPlane_(alphaFileName, work.Alphas_(), why)) {
+        why.inCompanion = true;
+        return nullptr;
+    }
     MapToAlphas_(work.Alphas_(), alpha.palette);
     if (trim == 1)
         work.Trim_();

@@ -64,7 +64,8 @@ void AppearanceEffects::OnObjectAdded()
 
 void AppearanceEffects::OnObjectRemoved(int32_t index)
 {
-    Drop(index);
+    MarkFinished(index);
+    DropFinished();
     places.erase(places.begin() + index);
     for (EffectRecord& record : records) {
         if (record.index > index)
@@ -76,12 +77,14 @@ void AppearanceEffects::Clear()
 {
     records.clear();
     places.clear();
+    someFinished = false;
 }
 
 // A record that somebody else's SetEffectRunning(false) has left behind makes room.
 void AppearanceEffects::Start(int32_t index, ScreenObject& object)
 {
-    Drop(index);
+    MarkFinished(index);
+    DropFinished();
     EffectRecord record;
     record.index = index;
     record.effectKind = object.GetEffect();
@@ -109,7 +112,7 @@ void AppearanceEffects::Step(int32_t index, ScreenObject& object, uint16_t* canv
     if (record.step > record.steps || record.effectKind == EffectNone) {
         PutAtEnd(object, record);
         object.Draw(canvas, pitch);
-        Drop(index);
+        MarkFinished(index);
         return;
     }
     // Fading out has no motion and no end: the object stays hidden while its record lives.
@@ -124,6 +127,7 @@ void AppearanceEffects::Step(int32_t index, ScreenObject& object, uint16_t* canv
 
 void AppearanceEffects::FinishAll(const std::vector<std::unique_ptr<ScreenObject>>& objects)
 {
+    DropFinished();
     for (const EffectRecord& record : records) {
         ScreenObject& object = *objects[static_cast<size_t>(record.index)];
         object.SetSrc({ 0, 0 }); // the cut of a step half-way would stay at a position of exactly 0
@@ -140,15 +144,22 @@ void AppearanceEffects::PutAtEnd(ScreenObject& object, const EffectRecord& recor
     ClipObject(object, object.GetBoundaryCheck(), canvasSize);
 }
 
-// The last record takes the free place.
-void AppearanceEffects::Drop(int32_t index)
+void AppearanceEffects::MarkFinished(int32_t index)
 {
     int32_t& place = places[static_cast<size_t>(index)];
     if (place < 0)
         return;
-    EffectRecord& dropped = records[static_cast<size_t>(place)];
-    dropped = records.back();
-    places[static_cast<size_t>(dropped.index)] = place;
-    records.pop_back();
+    records[static_cast<size_t>(place)].index = -1;
     place = -1;
+    someFinished = true;
+}
+
+void AppearanceEffects::DropFinished()
+{
+    if (!someFinished)
+        return;
+    std::erase_if(records, [](const EffectRecord& record) { return record.index < 0; });
+    for (size_t place = 0; place < records.size(); ++place)
+        places[static_cast<size_t>(records[place].index)] = static_cast<int32_t>(place);
+    someFinished = false;
 }

@@ -25,19 +25,22 @@ public:
     // Starts the object's effect, which is not EffectNone and does not run yet. It ends where the object now is.
     void Start(int32_t index, ScreenObject& object);
     // When a step is due: places the object, fits it to the canvas and draws it. Otherwise, and while it fades out, the
-    // object is not drawn. One without a running effect only loses its mark of one.
+    // object is not drawn. One without a running effect only loses its mark of one. A finished effect keeps its record,
+    // with the index -1, until DropFinished: many may end in one frame.
     void Step(int32_t index, ScreenObject& object, uint16_t* canvas, int32_t pitch);
+    void DropFinished();
     // Ends every running effect, a fade-out too, without drawing: the objects stand where they were when it started.
     void FinishAll(const std::vector<std::unique_ptr<ScreenObject>>& objects);
 
-    // The running effects, in no particular order.
+    // The running effects in the order in which they were started.
     const std::vector<EffectRecord>& GetRecords() const { return records; }
 
 private:
     void PutAtEnd(ScreenObject& object, const EffectRecord& record) const;
-    void Drop(int32_t index);
+    void MarkFinished(int32_t index);
 
     vec canvasSize;
     std::vector<EffectRecord> records;
     std::vector<int32_t> places; // by object index: the place of its record in `records`, or -1
+    bool someFinished = false;
 };

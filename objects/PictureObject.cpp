@@ -10,6 +10,9 @@ namespace {
 constexpr const char* pictureExtension = ".bmp";
 // Only fully opaque pixels count as hit.
 constexpr uint8_t maskThreshold = 31;
+constexpr struct {
+    uint8_t red, green, blue;
+} transparentColor { 0, 255, 0 }; // of pictures without a companion
 
 } // namespace
 
@@ -42,7 +45,8 @@ bool PictureObject::LoadPicture()
     SLoadFailure_* const failure = &loaded->failure;
     SPicOwner_ picture(CFileR_().Open_(companion.c_str())
             ? SPic16X_::LoadBmpAlpha_(fileName.c_str(), companion.c_str(), 0, bytes, failure)
-            : SPic16X_::LoadBmpKey_(fileName.c_str(), 0, 255, 0, 0, bytes, nullptr, nullptr, failure));
+            : SPic16X_::LoadBmpKey_(fileName.c_str(), transparentColor.red, transparentColor.green,
+                transparentColor.blue, 0, bytes, nullptr, nullptr, failure));
     if (!picture || loaded->pictureBytes == 0)
         return false;
     SPic16X_::ConvertTo555_(picture.get());

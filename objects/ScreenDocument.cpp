@@ -228,12 +228,13 @@ const uint16_t* ScreenDocument::Render()
         } else if (!GetObject(index, object)) {
             LogLayer(u8"無法取得 Pointer 的處理方式, Layer "_big5, layer, "");
         } else if (object->GetEffectRunning()) {
-            StepEffect(index);
+            effects.Step(index, *object, canvas.get(), pitch);
         } else {
             FitObject(*object);
             object->Draw(canvas.get(), pitch);
         }
     }
+    effects.DropFinished();
     return canvas.get();
 }
 
@@ -267,8 +268,10 @@ void ScreenDocument::StartEffect(int32_t index)
 void ScreenDocument::StepEffect(int32_t index)
 {
     ScreenObject* object = nullptr;
-    if (GetObject(index, object))
-        effects.Step(index, *object, canvas.get(), pitch);
+    if (!GetObject(index, object))
+        return;
+    effects.Step(index, *object, canvas.get(), pitch);
+    effects.DropFinished();
 }
 
 void ScreenDocument::FinishEffects()

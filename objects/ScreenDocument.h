@@ -80,7 +80,7 @@ public:
     int32_t GetPitch() const { return pitch; }
     vec GetCanvasSize() const { return canvasSize; }
     const std::vector<std::unique_ptr<ScreenObject>>& GetObjects() const { return objects; }
-    // The running effects, in no particular order.
+    // The running effects in the order in which they were started.
     const std::vector<EffectRecord>& GetEffects() const { return effects.GetRecords(); }
 
 private:

@@ -28,7 +28,7 @@ public:
     // for an empty text, which leaves the word without a picture. True although the text could not be rendered: such a
     // word has size (0, 0) and no picture.
     [[nodiscard]] bool SetText(const std::string& newText);
-    // Stores the text and renders nothing; for descriptions that are copied and rendered later.
+    // Stores the text and renders nothing; SetText renders it later.
     void StoreText(const std::string& newText) { text = newText; }
     const std::string& GetText() const { return text; }
     // The colour of the letters from the next SetText on. Each component is taken modulo 256.

@@ -64,7 +64,7 @@ TEST(BmpReading, GivesWhatAFileOfEitherDepthHolds)
             EXPECT_EQ(info.palette[1], as565 ? in565 : in555);
         }
         EXPECT_EQ(ReadBmpIndices_(name, plane), width == 9);
-        for (const size_t count : { 0, 6, 17 })
+        for (const size_t count : { 0U, 6U, 17U })
             EXPECT_FALSE(ReadBmpIndices_(name, std::span(plane).first(count)));
     }
     EXPECT_FALSE(reader.Open_("missing.bmp"));

@@ -88,10 +88,11 @@ TEST_P(RowOps, BlendEveryPixelValueAtEveryLevel)
         const RunOp op = level == 31 ? &PerDirection::copyRun : &PerDirection::blendRun;
         Pixels source = all;
         std::ranges::shuffle(source, random);
-        ASSERT_TRUE(DrawsAlike(*set, false, &PerDirection::blendRow, all, 0, source, 65536, l)) << level;
+        ASSERT_TRUE(DrawsAlike(*set, false, &PerDirection::blendRow, all, size_t { 0 }, source, 65536, l)) << level;
         for (size_t first = 0; first < all.size(); first += runLength) {
             const Pixels target(&all[first], &all[first] + runLength);
-            ASSERT_TRUE(DrawsAlike(*set, false, op, target, 0, RandomRun(runLength, false), runLength, l)) << level;
+            ASSERT_TRUE(DrawsAlike(*set, false, op, target, size_t { 0 }, RandomRun(runLength, false), runLength, l))
+                << level;
         }
     }
 }
