@@ -38,6 +38,10 @@ check_tidy() {
 # A function that the linker may share between files must not come from one that is compiled for other processors.
 check_row_ops() {
     local found
+    [ -n "$(find build -name 'RowOpsAvx*.cpp.o' -print -quit)" ] || {
+        echo "no row operations are built"
+        return 1
+    }
     found=$(find build -name 'RowOpsAvx*.cpp.o' -print0 | xargs -0 -r nm -C -A | grep -E ' W ' || true)
     [ -z "$found" ] || {
         echo "$found"

@@ -43,7 +43,7 @@ configure_and_build() {
 # run_tests PRESET: all of them. What a test could not compare here counts as left out, unless it is for a processor that
 # this machine has not.
 run_tests() {
-    ctest --preset "$1" -j "$(nproc)" || return
+    ctest --preset "$1" --no-tests=error -j "$(nproc)" || return
     local said
     said=$(sed -n '/was not compared/p' "build/$1/Testing/Temporary/LastTest.log" | sort -u)
     grep 'this processor' <<<"$said" || true
