@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gfx/LoadFailure.h"
 #include "objects/ScreenDocument.h"
 #include "script/ParsedScreen.h"
 #include "script/ScriptKinds.h"

@@ -36,6 +36,7 @@ enum class TokenType : uint8_t {
     SelectboxKey = 27,
     Unknown = 28,
 };
+static_assert(static_cast<uint32_t>(TokenType::Unknown) < 32, "TokenSet has a bit for each");
 
 // One element of a screen script. The text is exactly as read (a string keeps its quotes) and lies in the tokenizer.
 struct Token {
