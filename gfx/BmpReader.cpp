@@ -1,11 +1,9 @@
 #include "gfx/BmpReader.h"
 
 #include "gfx/ColorFormats.h"
-#include "platform/Path.h"
+#include "platform/FileReading.h"
 
-#include <filesystem>
 #include <new>
-#include <system_error>
 
 // The head of a BMP, a BITMAPFILEHEADER and behind it a BITMAPINFOHEADER or one of its longer successors, as the window
 // system's documentation of device-independent bitmaps has them. Offset and length in bytes of what is read; all
@@ -44,9 +42,7 @@ bool IsSize_(int32_t size)
 
 LoadProblem UnopenedProblem_(const char* fileName)
 {
-    std::error_code unknown;
-    const bool isThere = fileName && std::filesystem::exists(platform::NativePath(fileName), unknown);
-    return isThere ? LoadProblem::Unreadable : LoadProblem::NoSuchFile;
+    return fileName && platform::FileExists(fileName) ? LoadProblem::Unreadable : LoadProblem::NoSuchFile;
 }
 
 } // namespace

@@ -12,6 +12,9 @@ namespace platform {
 // A descriptor for the caller to close, -1 when the file cannot be read.
 [[nodiscard]] int OpenForReading(std::string_view codePagePath);
 
+// Whether the name leads to anything: a file, a folder, a device.
+bool FileExists(std::string_view codePagePath);
+
 // The whole file; nothing when it cannot be read or has more than `limit` bytes, whatever it says about its size.
 [[nodiscard]] std::optional<std::string> ReadFileContent(std::string_view codePagePath, size_t limit);
 

@@ -146,7 +146,7 @@ LRESULT DispatchMessageA(const MSG* message);
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Menus (LoadedMenus.cpp). A choice arrives as a posted WM_COMMAND of the owner.
+// Menus (Menus.cpp). A choice arrives as a posted WM_COMMAND of the owner.
 HMENU LoadMenuA(HINSTANCE instance, const char* name);
 HMENU GetSubMenu(HMENU menu, int position);
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rectangle);

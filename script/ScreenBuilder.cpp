@@ -35,6 +35,12 @@ std::string FileToBlame(const ScreenObject&)
 
 } // namespace
 
+std::string InWords(const BuildFailure& failure)
+{
+    const std::string object = std::string(BlockName(failure.kind)) + " " + std::to_string(failure.number);
+    return object + (failure.fileName.empty() ? "" : ", " + failure.fileName) + ": " + InWords(failure.reason);
+}
+
 // A parsed object is as fresh as a new one, so that it can go into the document itself.
 std::optional<BuildFailure> BuildScreen(ParsedScreen parsed, ScreenDocument& document)
 {

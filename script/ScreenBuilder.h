@@ -19,6 +19,9 @@ struct BuildFailure {
     SLoadFailure_ reason;
 };
 
+// "Button 1, Q.bmp: no such file". File names stay code page 950.
+std::string InWords(const BuildFailure& failure);
+
 // Loads the pictures and renders the texts of what was parsed, and adds the objects on top of the document's, kind by
 // kind in the order of a script's blocks: layers are numbered so, whatever the file says. Stops at the first object
 // that cannot be built; those before it stay in the document.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 // The kinds in the order of a script's blocks, in which a screen is also built from one.
 constexpr ObjectKind scriptKinds[] = { KindPicture, KindButton, KindAnimation, KindWord, KindCheckBox, KindSelectbox };
@@ -30,6 +31,28 @@ constexpr TokenType BlockWord(ObjectKind kind)
         return TokenType::SelectboxBlock;
     }
     return TokenType::Unknown;
+}
+
+// The word itself; empty for what is no object's kind.
+constexpr std::string_view BlockName(ObjectKind kind)
+{
+    switch (kind) {
+    case KindNone:
+        break;
+    case KindPicture:
+        return "Picture";
+    case KindButton:
+        return "Button";
+    case KindAnimation:
+        return "Animation";
+    case KindWord:
+        return "Word";
+    case KindCheckBox:
+        return "CheckBox";
+    case KindSelectbox:
+        return "Selectbox";
+    }
+    return {};
 }
 
 // A kind that has a block also has its place among them.

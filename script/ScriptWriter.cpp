@@ -32,27 +32,6 @@ vec FrameSize(const AnimationObject& animation)
     return strip.x > strip.y ? vec { strip.x / frames, strip.y } : vec { strip.x, strip.y / frames };
 }
 
-constexpr std::string_view BlockName(ObjectKind kind)
-{
-    switch (kind) {
-    case KindNone:
-        break;
-    case KindPicture:
-        return "Picture";
-    case KindButton:
-        return "Button";
-    case KindAnimation:
-        return "Animation";
-    case KindWord:
-        return "Word";
-    case KindCheckBox:
-        return "CheckBox";
-    case KindSelectbox:
-        return "Selectbox";
-    }
-    return {};
-}
-
 } // namespace
 
 ComposedScript ComposeScript(const ScreenInfo& info)

@@ -66,6 +66,12 @@ int OpenForReading(std::string_view codePagePath)
     return descriptor >= 0 ? descriptor : OpenOrdinaryFile(NativePath(codePagePath));
 }
 
+bool FileExists(std::string_view codePagePath)
+{
+    struct stat status { };
+    return stat(NativePath(codePagePath).c_str(), &status) == 0;
+}
+
 std::optional<std::string> ReadFileContent(std::string_view codePagePath, size_t limit)
 {
     const int descriptor = OpenForReading(codePagePath);

@@ -5,7 +5,7 @@
 #include "platform/Desktop.h"
 #include "platform/Path.h"
 #include "platform/User.h"
-#include "platform/windows/InputState.h"
+#include "platform/windows/ModalQuestion.h"
 #include "platform/windows/WindowTable.h"
 
 #include <cstring>

@@ -2,7 +2,7 @@
 #include "platform/ModalLoop.h"
 #include "platform/User.h"
 #include "platform/windows/DialogWindow.h"
-#include "platform/windows/InputState.h"
+#include "platform/windows/ModalQuestion.h"
 #include "platform/windows/ResourceLookup.h"
 #include "platform/windows/WindowDestruction.h"
 #include "platform/windows/WindowTable.h"

@@ -28,22 +28,6 @@ void ForgetInputOf(const Window& root)
         capturedWindow = nullptr;
 }
 
-ModalQuestion::ModalQuestion(Window* askingWindow)
-    : owner(IsWindow(askingWindow) && RootOf(*askingWindow).enabled ? &RootOf(*askingWindow) : nullptr)
-{
-    ReleaseCapture();
-    if (owner)
-        owner->enabled = false;
-}
-
-ModalQuestion::~ModalQuestion()
-{
-    if (!IsWindow(owner))
-        return;
-    owner->enabled = true;
-    owner->pointerPending = true;
-}
-
 } // namespace platform
 
 HWND SetFocus(HWND window)

@@ -10,17 +10,4 @@ Window* CapturedWindow();
 // Ends focus and capture of a window that goes, and of its controls.
 void ForgetInputOf(const Window& root);
 
-// While one is alive, a modal question is open: the window that asks takes no input. A capture ends when it begins.
-// When it ends, the window will hear where the pointer then lies.
-class ModalQuestion {
-public:
-    explicit ModalQuestion(Window* askingWindow);
-    ModalQuestion(const ModalQuestion&) = delete;
-    ModalQuestion& operator=(const ModalQuestion&) = delete;
-    ~ModalQuestion();
-
-private:
-    Window* owner; // null when nothing is to be given back
-};
-
 } // namespace platform

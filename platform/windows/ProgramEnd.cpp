@@ -1,6 +1,6 @@
 #include "platform/ProgramEnd.h"
 
-#include "platform/windows/LoadedMenus.h"
+#include "platform/windows/Menus.h"
 #include "platform/windows/MessageQueue.h"
 #include "platform/windows/WindowClasses.h"
 #include "platform/windows/WindowDestruction.h"

@@ -10,7 +10,7 @@ namespace {
 
 class ScreenBuilding : public testing::Test {
 protected:
-    // "KIND NUMBER FILE: REASON" of what could not be built; empty when all could.
+    // What could not be built; empty when all could.
     std::string Build(const std::string& blocks)
     {
         ScriptTokenizer tokens;
@@ -18,9 +18,7 @@ protected:
         EXPECT_TRUE(tokens.TokenizeText("ZULScreen {" + blocks + "}"));
         EXPECT_TRUE(ScriptParser::ParseTokens(tokens, screen));
         const auto failure = BuildScreen(std::move(screen), document);
-        return failure ? std::to_string(failure->kind) + " " + std::to_string(failure->number) + " " + failure->fileName
-                + ": " + InWords(failure->reason)
-                       : "";
+        return failure ? InWords(*failure) : "";
     }
     // What becomes of a picture whose header has this number at the offset.
     std::string BuildWith(size_t offset, uint32_t value)
@@ -44,29 +42,27 @@ TEST_F(ScreenBuilding, TakesTheKindsInTheirOrderWhateverTheScriptsIs)
         Word { Stage 0 { WordText = "c"; } } Animation { Stage 0 { Filename = "p.bmp"; } }
         Button { Stage 0 { Filename = "p.bmp"; } } Picture { Stage 0 { Filename = "p.bmp"; } })"),
         "");
-    int32_t layer = 0;
-    for (const auto& object : document.GetObjects()) {
-        EXPECT_EQ(object->GetLayer(), layer);
-        EXPECT_EQ(object->GetKind(), KindPicture + layer++); // the codes have this order too
-    }
-    EXPECT_EQ(layer, 6);
+    int32_t kind = KindPicture; // the codes have this order too
+    for (const auto& object : document.GetObjects())
+        EXPECT_EQ(object->GetKind(), kind++);
+    EXPECT_EQ(kind, KindSelectbox + 1);
 }
 
-TEST_F(ScreenBuilding, SaysWhichObjectOfItsKindCannotBeBuiltAndKeepsThoseBefore)
+TEST_F(ScreenBuilding, SaysWhichObjectOfItsKindCannotBeBuilt)
 {
     good.Write("p.bmp");
     const std::string twoPictures = R"(Picture { Stage 0 { Filename = "p.bmp"; } Stage 0 { Filename = "p.bmp"; } })";
-    const std::pair<const char*, const char*> failures[] = {
+    const std::tuple<const char*, const char*, int32_t> failures[] = {
         { R"(Button { Stage 0 { Filename = "p.bmp"; } Stage 1 { Filename = "Q.bmp"; } })",
-            "1002 1 Q.bmp: no such file" },
-        { R"(Animation { Stage 9 { Filename = "p.BMP"; } })", "1003 0 p.BMP: no \".bmp\" in its name" },
-        { R"(Word { Stage 0 { WordText = "a"; } Stage 1 { } })", "1004 1 : empty text" },
-        { R"(CheckBox { Stage 0 { } })", "1005 0 : empty text" },
+            "Button 1, Q.bmp: no such file", 3 },
+        { R"(Animation { Stage 9 { Filename = "p.BMP"; } })", "Animation 0, p.BMP: no \".bmp\" in its name", 2 },
+        { R"(Word { Stage 0 { WordText = "a"; } Stage 1 { } })", "Word 1: empty text", 3 },
+        { R"(CheckBox { Stage 0 { } })", "CheckBox 0: empty text", 2 },
     };
-    for (const auto& [blocks, failure] : failures) {
+    for (const auto& [blocks, failure, before] : failures) {
         document.Clear();
         EXPECT_EQ(Build(blocks + twoPictures), failure);
-        EXPECT_EQ(document.GetObjectCount(), failure[5] == '1' ? 3 : 2) << blocks;
+        EXPECT_EQ(document.GetObjectCount(), before) << blocks;
     }
 }
 
@@ -86,7 +82,7 @@ TEST_F(ScreenBuilding, SaysWhatIsWrongWithThePicture)
         { 30, 1, "compressed" },
     };
     for (const auto& [offset, value, reason] : damages)
-        EXPECT_EQ(BuildWith(offset, value), std::string("1001 0 bad.bmp: ") + reason) << offset;
+        EXPECT_EQ(BuildWith(offset, value), std::string("Picture 0, bad.bmp: ") + reason) << offset;
 }
 
 TEST_F(ScreenBuilding, TellsThePictureFromItsCompanion)
@@ -94,14 +90,14 @@ TEST_F(ScreenBuilding, TellsThePictureFromItsCompanion)
     const std::string picture = R"(Picture { Stage 0 { Filename = "p.bmp"; } })";
     good.Write("p.bmp");
     BmpFile(20, 40).Write("pa.bmp");
-    EXPECT_EQ(Build(picture), "1001 0 pa.bmp: companion: not as large as the picture");
+    EXPECT_EQ(Build(picture), "Picture 0, pa.bmp: companion: not as large as the picture");
     WriteBytes("pa.bmp", "B");
-    EXPECT_EQ(Build(picture), "1001 0 pa.bmp: companion: not a BMP");
+    EXPECT_EQ(Build(picture), "Picture 0, pa.bmp: companion: not a BMP");
     WriteBytes("p.bmp", "BM");
-    EXPECT_EQ(Build(picture), "1001 0 p.bmp: cut short");
+    EXPECT_EQ(Build(picture), "Picture 0, p.bmp: cut short");
     std::filesystem::remove("p.bmp");
     std::filesystem::create_directory("p.bmp");
-    EXPECT_EQ(Build(picture), "1001 0 p.bmp: cannot be read");
+    EXPECT_EQ(Build(picture), "Picture 0, p.bmp: cannot be read");
 }
 
 } // namespace

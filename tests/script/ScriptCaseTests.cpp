@@ -112,7 +112,8 @@ std::string Rewrite(const std::string& script)
     const TemporaryFolder folder;
     ScriptTokenizer tokens;
     ParsedScreen screen;
-    EXPECT_TRUE(tokens.TokenizeText(script) && ScriptParser::ParseTokens(tokens, screen));
+    EXPECT_TRUE(tokens.TokenizeText(script));
+    EXPECT_TRUE(ScriptParser::ParseTokens(tokens, screen));
     ScreenDocument document;
     TakeObjects(std::move(screen), document);
     EXPECT_EQ(ScriptWriter().Write({ .objects = document.GetObjects() }, "out.tobrik"), platform::FileWriting::Done);

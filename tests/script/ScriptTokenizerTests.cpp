@@ -23,7 +23,7 @@ TEST(ScriptTokenizer, ReadsFilesOfAnyLengthButNothingElse)
         EXPECT_FALSE(tokens.Tokenize(name)) << name;
 }
 
-TEST(ScriptTokenizer, KeepsTheTokensBeforeAFailureAndTheirPlacesInTheFile)
+TEST(ScriptTokenizer, KeepsTheTokensBeforeAFailure)
 {
     const platform::ScriptedDesktop quiet;
     ScriptTokenizer tokens;

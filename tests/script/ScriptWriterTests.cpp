@@ -34,7 +34,8 @@ TEST(ScriptWriter, WritesAScreenOfAllKindsAsItWasRead)
     const std::string example = ReadBytes(SCRIPT_CASES "/example.tobrik");
     ScriptTokenizer tokens;
     ParsedScreen screen;
-    ASSERT_TRUE(tokens.TokenizeText(example) && ScriptParser::ParseTokens(tokens, screen));
+    ASSERT_TRUE(tokens.TokenizeText(example));
+    ASSERT_TRUE(ScriptParser::ParseTokens(tokens, screen));
     screen.pictures[0]->SetFileName("C:\\Image\\title.bmp"); // only its base name is stored
     ScreenDocument document;
     document.AddPicture(WithSize(*screen.pictures[0], { 320, 240 }));

@@ -9,7 +9,7 @@ class ContextMenus : public EditorTest { };
 TEST_F(ContextMenus, SayThatADialogCannotBeMade)
 {
     MakeAllKinds();
-    const platform::Module bare {};
+    static const platform::Module bare {};
     shell.instance = &bare;
     size_t said = 0;
     for (const auto& [object, item] : { std::pair { 0, MenuObjectProperties }, { 1, MenuObjectProperties },

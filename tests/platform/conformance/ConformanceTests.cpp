@@ -115,7 +115,7 @@ TEST_F(Conformance, AHeldKeyRepeats)
     EXPECT_EQ(Settled(), Log(3, "key 40"));
 }
 
-TEST_F(Conformance, AMenusChoiceIsPostedAndThenThePointerIsTold)
+TEST_F(Conformance, AMenusChoiceIsPostedBeforeThePointerIsTold)
 {
     // Not where it lies on the button or outside.
     const std::tuple<size_t, POINT, Log> choices[] = { { 1, { 120, 60 }, { "command 12", "move 120 60 0" } },

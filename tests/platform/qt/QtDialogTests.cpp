@@ -39,7 +39,7 @@ TEST_F(QtDialogs, ShowAQuestionMarkForWhatTheCodePageCannotSpell)
     } });
 }
 
-TEST_F(QtDialogs, RefuseAllButDigitsAndTypingIntoDisplays)
+TEST_F(QtDialogs, RefuseWhatMayNotBeTyped)
 {
     WorkInDialog({ [this] {
         EXPECT_EQ(InDialog<QLineEdit>(Name).selectedText(), QStringLiteral("Ann")) << "the first field's";
@@ -51,7 +51,7 @@ TEST_F(QtDialogs, RefuseAllButDigitsAndTypingIntoDisplays)
     } });
 }
 
-TEST_F(QtDialogs, TurnEscapeAndEnterIntoCommandsAndNothingElse)
+TEST_F(QtDialogs, MakeCommandsOfEscapeAndEnterAlone)
 {
     WorkInDialog({ [this] { QTest::keyClick(&InDialog<QLineEdit>(Name), Qt::Key_Escape); },
         [this] { QTest::keyClick(&InDialog<QComboBox>(Plain), Qt::Key_Return); },

@@ -50,7 +50,7 @@ TEST_F(QtQuestions, LetEitherButtonChooseFromAMenu)
     }
 }
 
-TEST_F(QtQuestions, ShowFilesInWholeColumnsAndLeaveNoSettingsBehind)
+TEST_F(QtQuestions, ShowFilesInWholeColumnsLeavingNoSettings)
 {
     WhileModal({ [] {
         EXPECT_EQ(QApplication::activeModalWidget()->width(), 760);

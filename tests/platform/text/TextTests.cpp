@@ -63,7 +63,8 @@ TEST_F(TextLine, ShowsThePixelsOfTheFontsOwnStrikes)
     FT_Library library = nullptr;
     FT_Face face = nullptr;
     ASSERT_EQ(FT_Init_FreeType(&library), 0);
-    ASSERT_TRUE(file && FT_New_Face(library, file->path.c_str(), file->index, &face) == 0);
+    ASSERT_TRUE(file);
+    ASSERT_EQ(FT_New_Face(library, file->path.c_str(), file->index, &face), 0);
     EXPECT_STREQ(face->family_name, "AR PL UMing TW");
     ASSERT_EQ(FT_Set_Pixel_Sizes(face, 13, 13), 0);
     Grid expected = nothing;
@@ -136,7 +137,7 @@ TEST_F(TextLine, IsCutAtTheEdgesWhereverItIsPut)
 }
 
 // Runs in a process of its own, so that no font has been looked for before.
-TEST(WithoutAnyFont, EveryCharacterIsABoxAndTheLogSaysSo)
+TEST(WithoutAnyFont, TheLogSaysThatEveryCharacterIsABox)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto drawWithFonts = [](const std::string& fonts) {

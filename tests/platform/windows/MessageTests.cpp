@@ -22,7 +22,7 @@ TEST_F(Messages, EraseWithTheClassBrushBeforeTheQueueIsServed)
     EXPECT_EQ(Played(), Log {});
 }
 
-TEST_F(Messages, ForADestroyedWindowAreDroppedAndItsHandleIsHarmless)
+TEST_F(Messages, OfADestroyedWindowReachNobody)
 {
     HWND window = OpenWindow();
     HWND button = GetDlgItem(window, 7);
@@ -39,16 +39,23 @@ TEST_F(Messages, ForADestroyedWindowAreDroppedAndItsHandleIsHarmless)
     SendMessageA(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(TakeLog(), (Log { "close", "destroy", "close" }));
     EXPECT_TRUE(wasWhole);
-    EXPECT_FALSE(desktop.MainWindow() || desktop.Focus() || desktop.Capture());
+    EXPECT_FALSE(desktop.MainWindow());
+    EXPECT_FALSE(desktop.Focus());
+    EXPECT_FALSE(desktop.Capture());
 
     for (HWND dead : { window, button, HWND {} }) {
         const MSG message { .hwnd = dead, .message = WM_CLOSE };
         RECT rectangle;
         POINT point {};
-        EXPECT_EQ(DispatchMessageA(&message) | SendMessageA(dead, WM_CLOSE, 0, 0), 0);
-        EXPECT_FALSE(ShowWindow(dead, SW_SHOWNORMAL) || UpdateWindow(dead) || InvalidateRect(dead, nullptr, TRUE));
-        EXPECT_FALSE(GetClientRect(dead, &rectangle) || ClientToScreen(dead, &point) || SetWindowTextA(dead, "x"));
-        EXPECT_FALSE(MoveWindow(dead, 0, 0, 1, 1, TRUE) || SetFocus(dead) || SetCapture(dead) || EndDialog(dead, 1));
+        EXPECT_EQ(DispatchMessageA(&message), 0);
+        EXPECT_EQ(SendMessageA(dead, WM_CLOSE, 0, 0), 0);
+        const bool answers[] = { ShowWindow(dead, SW_SHOWNORMAL) != FALSE, UpdateWindow(dead) != FALSE,
+            InvalidateRect(dead, nullptr, TRUE) != FALSE, GetClientRect(dead, &rectangle) != FALSE,
+            ClientToScreen(dead, &point) != FALSE, SetWindowTextA(dead, "x") != FALSE,
+            MoveWindow(dead, 0, 0, 1, 1, TRUE) != FALSE, SetFocus(dead) != nullptr, SetCapture(dead) != nullptr,
+            EndDialog(dead, 1) != FALSE };
+        for (size_t call = 0; call < std::size(answers); ++call)
+            EXPECT_FALSE(answers[call]) << "call " << call;
         EXPECT_EQ(GetWindowLongA(dead, GWL_HINSTANCE), 0);
         EXPECT_FALSE(GetDlgItem(dead, 7));
     }

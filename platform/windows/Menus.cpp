@@ -1,10 +1,10 @@
-#include "platform/windows/LoadedMenus.h"
+#include "platform/windows/Menus.h"
 
 #include "platform/Desktop.h"
 #include "platform/Menu.h"
 #include "platform/Resources.h"
 #include "platform/User.h"
-#include "platform/windows/InputState.h"
+#include "platform/windows/ModalQuestion.h"
 #include "platform/windows/ResourceLookup.h"
 #include "platform/windows/WindowTable.h"
 
