@@ -110,7 +110,8 @@ TEST_P(RowOps, BlendEveryChannelByEveryPairOfLevels)
             for (uint32_t value = 0; value < 32; ++value) // by one of the eight indices that have it
                 run.insert(run.end(), { static_cast<uint8_t>(32 * Random(8) + value), static_cast<uint8_t>(i / 32) });
             const Pixels target(32, grey(i % 32));
-            ASSERT_TRUE(DrawsAlike(*set, false, &PerDirection::blendLevelsRun, target, 0, run, 32, level)) << i;
+            ASSERT_TRUE(DrawsAlike(*set, false, &PerDirection::blendLevelsRun, target, size_t { 0 }, run, 32, level))
+                << i;
         }
 }
 

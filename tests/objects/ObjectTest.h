@@ -138,7 +138,7 @@ protected:
         });
         for (const auto& [word, message] : { std::pair("press", MsgLeftDown), { "release", MsgLeftUp },
                  { "move", MsgMouseMove }, { "right-press", MsgRightDown } })
-            On(word, [this, message](vec point) {
+            On(word, [this, message = message](vec point) {
                 const bool answer = object.HandleMessage(message, 0, Pointer(point.x, point.y));
                 return Told(answer) + State();
             });
